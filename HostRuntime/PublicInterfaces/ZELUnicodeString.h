@@ -1,0 +1,86 @@
+// ZELUnicodeString: a Unicode text whose positions are characters and whose copies share one buffer.
+// ZELUnicodeString name("caf\xC3\xA9"); name.GetLength() == 4 on a system whose code page is UTF-8.
+//
+// The text is kept as UTF-8. What the system calls a name is not always a valid text: bytes that are not UTF-8 (Linux)
+// and lone surrogates (Windows) are kept as they are, each counting as one character, and come back unchanged at the
+// system's border. The narrow view is the text in the system code page: UTF-8 on Linux, the ANSI code page on Windows.
+// One text belongs to one thread at a time; copies of it may live on other threads.
+#ifndef ZELUnicodeString_H
+#define ZELUnicodeString_H
+
+#include "OPXHostRuntimeExport.h"
+#include "ZELTextSearch.h"
+
+#include <string>
+#include <string_view>
+
+class ZELSharedText;
+class ZELString;
+
+class OPXHOSTRUNTIME_EXPORT ZELUnicodeString
+{
+public:
+  ZELUnicodeString() noexcept;
+  // From the narrow view. A null text gives the empty string.
+  ZELUnicodeString(const char* i_narrow);
+  ZELUnicodeString(const ZELString& i_narrow);
+  ZELUnicodeString(const ZELUnicodeString& i_other) noexcept;
+  ZELUnicodeString(ZELUnicodeString&& io_other) noexcept;
+  ZELUnicodeString& operator=(const ZELUnicodeString& i_other) noexcept;
+  ZELUnicodeString& operator=(ZELUnicodeString&& io_other) noexcept;
+  ~ZELUnicodeString();
+
+  static ZELUnicodeString FromUTF8(std::string_view i_text);
+  static ZELUnicodeString FromUTF16(std::u16string_view i_text);
+
+  // The text as UTF-8, zero-terminated, broken bytes and lone surrogates (three bytes each) included; valid while this
+  // value lives and is unchanged.
+  std::string_view GetUTF8() const noexcept;
+  std::u16string ToUTF16() const;
+  // True when GetUTF8 is UTF-8 that every reader accepts.
+  bool IsValidUTF8() const noexcept;
+  // The text in the system code page, zero-terminated; valid while this value lives and is unchanged. Characters that
+  // the code page lacks become its replacement character. Never null.
+  const char* GetNarrow() const;
+  ZELString ToNarrow() const;
+
+  // In characters.
+  int GetLength() const noexcept;
+  bool IsEmpty() const noexcept;
+
+  ZELUnicodeString& operator+=(const ZELUnicodeString& i_text);
+  friend OPXHOSTRUNTIME_EXPORT ZELUnicodeString operator+(const ZELUnicodeString& i_left, const ZELUnicodeString& i_right);
+  // The texts one after the other in one buffer, with one allocation.
+  static ZELUnicodeString Join(std::string_view i_utf8First, std::string_view i_utf8Second, std::string_view i_utf8Third);
+
+  friend bool operator==(const ZELUnicodeString& i_left, const ZELUnicodeString& i_right) noexcept
+  {
+    return i_left.GetUTF8() == i_right.GetUTF8();
+  }
+  friend bool operator!=(const ZELUnicodeString& i_left, const ZELUnicodeString& i_right) noexcept { return !(i_left == i_right); }
+  // By code point.
+  friend bool operator<(const ZELUnicodeString& i_left, const ZELUnicodeString& i_right) noexcept
+  {
+    return i_left.GetUTF8() < i_right.GetUTF8();
+  }
+
+  // As ZELString::Search, in characters.
+  int Search(const ZELUnicodeString& i_text, int i_start = 0, ZELTextSearch i_mode = ZELTextSearch::Forward) const noexcept;
+  // The characters from i_start on, at most i_length of them; what lies outside the text is left out.
+  ZELUnicodeString SubString(int i_start, int i_length) const;
+  // Every place of one ASCII character becomes another.
+  void Replace(char i_from, char i_to);
+  // The system's own one-to-one case mapping of every character, ASCII or not.
+  ZELUnicodeString ToUpper() const;
+  ZELUnicodeString ToLower() const;
+
+  // A hash of the text: equal texts have equal hashes in one process. Spread over all 32 bits.
+  int ComputeHashKey() const noexcept;
+
+private:
+  explicit ZELUnicodeString(ZELSharedText* i_pText) noexcept;
+
+  ZELSharedText* _pText;
+};
+
+#endif
