@@ -13,9 +13,16 @@ if(NOT CMAKE_BUILD_TYPE)
   set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "Build type" FORCE)
 endif()
 
+# Precompiled headers are kept by ccache only when it is told that their time and their definitions do not matter, and
+# when clang writes no time into them.
 find_program(OPX_CCACHE ccache)
 if(OPX_CCACHE)
-  set(CMAKE_CXX_COMPILER_LAUNCHER "${OPX_CCACHE}")
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND};-E;env;CCACHE_SLOPPINESS=pch_defines,time_macros;${OPX_CCACHE}")
+endif()
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+  add_compile_options("SHELL:-Xclang -fno-pch-timestamp")
+elseif(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  add_compile_options(-fpch-preprocess)
 endif()
 
 include(GenerateExportHeader)
