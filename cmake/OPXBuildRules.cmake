@@ -60,7 +60,9 @@ function(opx_shared_library name headers)
     "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/${headers}>"
     "$<BUILD_INTERFACE:${generated}>"
     "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/OPXCoreTools>")
-  set_target_properties(${name} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
-    PREFIX "$<IF:$<BOOL:${WIN32}>,,lib>")
+  set_target_properties(${name} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+  if(WIN32)
+    set_target_properties(${name} PROPERTIES PREFIX "")
+  endif()
   target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:opx_warnings>)
 endfunction()

@@ -14,6 +14,8 @@ LINT = "lint"
 # The least share of lines of OPXCoreTools/ that the tests must run, in percent.
 COVERAGE_FLOOR = 97
 CORES = os.cpu_count() or 1
+# Lines of cmake and ninja that tell how far they are, not what went wrong.
+PROGRESS = re.compile(r"^(\[\d+/\d+\]|-- ).*\n", re.MULTILINE)
 
 
 def parse_arguments():
@@ -39,7 +41,7 @@ def run(command, **options):
 def require(command):
     succeeded, output = run(command)
     if not succeeded:
-        raise Failure(f"{' '.join(map(str, command))}\n{output}")
+        raise Failure(f"{' '.join(map(str, command))}\n{PROGRESS.sub('', output)}")
     return output
 
 
