@@ -9,44 +9,40 @@
 #define ZELUnicodeString_H
 
 #include "OPXHostRuntimeExport.h"
+#include "ZELSharedText.h"
+#include "ZELTextHash.h"
 #include "ZELTextSearch.h"
 
 #include <string>
 #include <string_view>
 
-class ZELSharedText;
 class ZELString;
 
 class OPXHOSTRUNTIME_EXPORT ZELUnicodeString
 {
 public:
-  ZELUnicodeString() noexcept;
+  ZELUnicodeString() noexcept = default;
   // From the narrow view. A null text gives the empty string.
   ZELUnicodeString(const char* i_narrow);
   ZELUnicodeString(const ZELString& i_narrow);
-  ZELUnicodeString(const ZELUnicodeString& i_other) noexcept;
-  ZELUnicodeString(ZELUnicodeString&& io_other) noexcept;
-  ZELUnicodeString& operator=(const ZELUnicodeString& i_other) noexcept;
-  ZELUnicodeString& operator=(ZELUnicodeString&& io_other) noexcept;
-  ~ZELUnicodeString();
 
   static ZELUnicodeString FromUTF8(std::string_view i_text);
   static ZELUnicodeString FromUTF16(std::u16string_view i_text);
 
   // The text as UTF-8, zero-terminated, broken bytes and lone surrogates (three bytes each) included; valid while this
   // value lives and is unchanged.
-  std::string_view GetUTF8() const noexcept;
+  std::string_view GetUTF8() const noexcept { return _text.GetView(); }
   std::u16string ToUTF16() const;
   // True when GetUTF8 is UTF-8 that every reader accepts.
   bool IsValidUTF8() const noexcept;
   // The text in the system code page, zero-terminated; valid while this value lives and is unchanged. Characters that
   // the code page lacks become its replacement character. Never null.
-  const char* GetNarrow() const;
+  const char* GetNarrow() const { return IsPlain() ? _text.GetText() : GetConvertedNarrow(); }
   ZELString ToNarrow() const;
 
   // In characters.
-  int GetLength() const noexcept;
-  bool IsEmpty() const noexcept;
+  int GetLength() const noexcept { return _text.GetCharacters(); }
+  bool IsEmpty() const noexcept { return GetLength() == 0; }
 
   ZELUnicodeString& operator+=(const ZELUnicodeString& i_text);
   friend OPXHOSTRUNTIME_EXPORT ZELUnicodeString operator+(const ZELUnicodeString& i_left, const ZELUnicodeString& i_right);
@@ -75,12 +71,16 @@ public:
   ZELUnicodeString ToLower() const;
 
   // A hash of the text: equal texts have equal hashes in one process. Spread over all 32 bits.
-  int ComputeHashKey() const noexcept;
+  int ComputeHashKey() const noexcept { return ZELTextHash(GetUTF8()); }
 
 private:
-  explicit ZELUnicodeString(ZELSharedText* i_pText) noexcept;
+  explicit ZELUnicodeString(ZELSharedText i_text, int i_characters) noexcept;
 
-  ZELSharedText* _pText;
+  // Every character is one byte, as in any ASCII text: then positions are offsets and the narrow view is the text.
+  bool IsPlain() const noexcept { return _text.GetCharacters() == _text.GetLength(); }
+  const char* GetConvertedNarrow() const;
+
+  ZELSharedText _text;
 };
 
 #endif
