@@ -3,7 +3,6 @@
 #include "TextCharacters.h"
 
 #define WIN32_LEAN_AND_MEAN
-#define NOMINMAX
 #include <windows.h>
 
 namespace
