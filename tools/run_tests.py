@@ -80,13 +80,19 @@ def count(folder):
     return passed, failed
 
 
+def launcher(preset):
+    """Some kernels scatter addresses further than the race detector can follow; where allowed, it runs without that."""
+    fixed = ["setarch", "-R"]
+    return fixed if preset == "tsan" and run([*fixed, "true"])[0] else []
+
+
 def run_tests(preset, name):
     folder = ROOT / "build" / preset
     for old in [*(folder / "results").glob("*"), *(folder.rglob("*.gcda") if preset == "coverage" else [])]:
         old.unlink()
     (folder / "results").mkdir(exist_ok=True)
     selection, environment = select(folder, name)
-    succeeded, output = run(["ctest", "--preset", preset, f"-j{CORES}", "--output-junit", folder / "results" / "ctest.junit", *selection],
+    succeeded, output = run([*launcher(preset), "ctest", "--preset", preset, f"-j{CORES}", "--output-junit", folder / "results" / "ctest.junit", *selection],
                             env={**os.environ, **environment})
     passed, failed = count(folder)
     if not succeeded:
@@ -95,16 +101,17 @@ def run_tests(preset, name):
 
 
 def check_coverage(folder):
-    """Writes the report and answers the line that sums it up; less than the floor is a failure."""
+    """Writes the report; answers whether the floor is reached, and the line that sums it up."""
     report = folder / "coverage"
     report.mkdir(exist_ok=True)
     output = require(["gcovr", "--root", ROOT, "--filter", f"{ROOT}/OPXCoreTools/", "--object-directory", folder, folder, "-j", str(CORES),
                       "--txt", report / "coverage.txt", "--html-details", report / "index.html",
                       "--json-summary", report / "summary.json", "--json-summary-pretty", "--print-summary"])
     percent = float(re.search(r"lines: ([\d.]+)%", output).group(1))
-    if percent < COVERAGE_FLOOR:
-        raise Failure(f"{(report / 'coverage.txt').read_text()}\nline coverage of OPXCoreTools/ is {percent} %, below {COVERAGE_FLOOR} %")
-    return f"{percent} % of the lines of OPXCoreTools/"
+    enough = percent >= COVERAGE_FLOOR
+    if not enough:
+        print(f"{(report / 'coverage.txt').read_text()}\nline coverage of OPXCoreTools/ is {percent} %, below {COVERAGE_FLOOR} %")
+    return enough, f"{percent} % of the lines of OPXCoreTools/"
 
 
 def test_preset(preset, name):
@@ -113,8 +120,10 @@ def test_preset(preset, name):
         return 1, 0, ""
     build(preset)
     passed, failed = run_tests(preset, name)
-    note = check_coverage(ROOT / "build" / preset) if preset == "coverage" and name is None and not failed else ""
-    return passed, failed, note
+    if preset != "coverage" or name is not None:
+        return passed, failed, ""
+    enough, note = check_coverage(ROOT / "build" / preset)
+    return passed + enough, failed + (not enough), note
 
 
 def try_preset(preset, name):

@@ -1,0 +1,34 @@
+# What a user gets: the libraries, their headers, the program, a CMake package and a pkg-config file.
+include(CMakePackageConfigHelpers)
+
+set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/OPXCoreTools")
+set(header_folder "${CMAKE_INSTALL_INCLUDEDIR}/OPXCoreTools")
+
+set_target_properties(OPXHostRuntime PROPERTIES EXPORT_NAME HostRuntime INSTALL_RPATH "$ORIGIN")
+set_target_properties(OPXCoreTools PROPERTIES EXPORT_NAME CoreTools INSTALL_RPATH "$ORIGIN")
+install(TARGETS OPXHostRuntime OPXCoreTools EXPORT OPXCoreTools)
+install(DIRECTORY HostRuntime/PublicInterfaces/ OPXCoreTools/ProtectedInterfaces/
+  "${CMAKE_BINARY_DIR}/generated/OPXHostRuntime/" "${CMAKE_BINARY_DIR}/generated/OPXCoreTools/"
+  DESTINATION "${header_folder}" FILES_MATCHING PATTERN "*.h")
+
+if(TARGET OPXTreeBridge)
+  set_target_properties(OPXTreeBridge PROPERTIES EXPORT_NAME TreeBridge INSTALL_RPATH "$ORIGIN")
+  install(TARGETS OPXTreeBridge EXPORT OPXCoreTools)
+  install(DIRECTORY OPXTreeBridge/PublicInterfaces/ "${CMAKE_BINARY_DIR}/generated/OPXTreeBridge/"
+    DESTINATION "${header_folder}" FILES_MATCHING PATTERN "*.h")
+endif()
+if(TARGET opx-explorer)
+  set_target_properties(opx-explorer PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+  install(TARGETS opx-explorer)
+endif()
+
+install(EXPORT OPXCoreTools NAMESPACE OPX:: FILE OPXCoreToolsTargets.cmake DESTINATION "${package_folder}")
+configure_package_config_file(cmake/OPXCoreToolsConfig.cmake.in "${CMAKE_BINARY_DIR}/generated/OPXCoreToolsConfig.cmake"
+  INSTALL_DESTINATION "${package_folder}")
+# Until 1.0 a new minor version may change what is exported.
+write_basic_package_version_file("${CMAKE_BINARY_DIR}/generated/OPXCoreToolsConfigVersion.cmake" COMPATIBILITY SameMinorVersion)
+install(FILES "${CMAKE_BINARY_DIR}/generated/OPXCoreToolsConfig.cmake" "${CMAKE_BINARY_DIR}/generated/OPXCoreToolsConfigVersion.cmake"
+  DESTINATION "${package_folder}")
+
+configure_file(cmake/OPXCoreTools.pc.in "${CMAKE_BINARY_DIR}/generated/OPXCoreTools.pc" @ONLY)
+install(FILES "${CMAKE_BINARY_DIR}/generated/OPXCoreTools.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
