@@ -69,10 +69,12 @@ def count_cases(results):
 
 
 def count(folder):
-    """Sums the cases of each test program; a test that is no such program, or that crashed, counts as one."""
+    """Sums the cases of each test program and prints what failed; a test without cases, or that crashed, counts as one."""
     passed = failed = 0
     for test in ElementTree.parse(folder / "results" / "ctest.junit").getroot().iter("testcase"):
         good = test.get("status") == "run"
+        if not good:
+            print(f"--- {test.get('name')} failed\n{test.findtext('system-out')}")
         cases = folder / "results" / f"{test.get('name')}.xml"
         counted = count_cases(cases) if cases.exists() and cases.stat().st_size else (int(good), 0)
         passed += counted[0]
@@ -92,12 +94,10 @@ def run_tests(preset, name):
         old.unlink()
     (folder / "results").mkdir(exist_ok=True)
     selection, environment = select(folder, name)
-    succeeded, output = run([*launcher(preset), "ctest", "--preset", preset, f"-j{CORES}", "--output-junit", folder / "results" / "ctest.junit", *selection],
+    succeeded, _ = run([*launcher(preset), "ctest", "--preset", preset, f"-j{CORES}", "--output-junit", folder / "results" / "ctest.junit", *selection],
                             env={**os.environ, **environment})
     passed, failed = count(folder)
-    if not succeeded:
-        print(output)
-    return passed, failed + (0 if succeeded or failed else 1)
+    return passed, failed if succeeded else max(failed, 1)
 
 
 def check_coverage(folder):

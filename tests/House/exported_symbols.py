@@ -27,6 +27,7 @@ def main(library, kept_list, *options):
     now = exported(library)
     kept = pathlib.Path(kept_list)
     if options == ("--accept",):
+        kept.parent.mkdir(exist_ok=True)
         kept.write_text("".join(f"{name}\n" for name in now))
         return 0
     before = kept.read_text().splitlines() if kept.exists() else []
