@@ -18,7 +18,6 @@
 
 #include <nlohmann/json.hpp>
 
-#include <cstddef>
 #include <optional>
 #include <string>
 #include <utility>
@@ -186,7 +185,7 @@ public:
   int GetRequestCount() const { return static_cast<int>(_groupKeys.size()); }
 
 private:
-  void ReadGroupedRequest(const nlohmann::json& i_groupedRequest);
+  void ReadGroupedRequest(const nlohmann::json& groupedRequest);
   void ReadSingleRequest(const nlohmann::json& i_request);
 
   std::vector<int> _firstNodeIndices;
@@ -222,7 +221,7 @@ public:
 
 private:
   void CheckSizes() const;
-  int ComputeLastRow(std::size_t i_request) const;
+  std::vector<int> ComputeLastRows() const;
   nlohmann::json AssembleJSON(nlohmann::json::array_t i_rows) const;
 
   std::vector<std::vector<TreeNodeProperties>> _nodesProperties;
