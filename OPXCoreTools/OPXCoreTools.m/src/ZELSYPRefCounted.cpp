@@ -1,0 +1,3 @@
+#include "ZELSYPRefCounted.h"
+
+ZELSYPRefCounted::~ZELSYPRefCounted() = default;

@@ -1,0 +1,35 @@
+// ZELSYPRefCounted: the base of objects that live as long as someone holds a reference, on whatever thread.
+// class Job : public ZELSYPRefCounted { ... }; Job* pJob = new Job; pJob->AddRef(); ... pJob->Release();
+#ifndef ZELSYPRefCounted_H
+#define ZELSYPRefCounted_H
+
+#include "OPXCoreToolsExport.h"
+
+#include <atomic>
+#include <cstdint>
+
+class OPXCORETOOLS_EXPORT ZELSYPRefCounted
+{
+public:
+  ZELSYPRefCounted(const ZELSYPRefCounted&) = delete;
+  ZELSYPRefCounted& operator=(const ZELSYPRefCounted&) = delete;
+
+  // One reference more. Any thread that holds one.
+  void AddRef() noexcept { _count.fetch_add(1, std::memory_order_relaxed); }
+  // Gives a reference back; the last one deletes the object, on the thread that gives it back.
+  void Release()
+  {
+    if (_count.fetch_sub(1, std::memory_order_acq_rel) == 1)
+      delete this;
+  }
+
+protected:
+  // The creator holds the first reference.
+  ZELSYPRefCounted() noexcept : _count(1) {}
+  virtual ~ZELSYPRefCounted();
+
+private:
+  std::atomic<std::int32_t> _count;
+};
+
+#endif
