@@ -1,0 +1,18 @@
+#include "ZELStackTrace.h"
+
+#define BOOST_STACKTRACE_LINK
+#include <boost/stacktrace.hpp>
+
+void ZELStackTrace::GetTrace()
+{
+  _frames.clear();
+  for (const boost::stacktrace::frame& frame : boost::stacktrace::stacktrace(1, SIZE_MAX))
+    _frames.push_back(frame.address());
+}
+
+std::string ZELBasicStackTrace::Describe(int i_index) const
+{
+  if (i_index < 0 || i_index >= GetFrameCount())
+    return std::string();
+  return boost::stacktrace::to_string(boost::stacktrace::frame(_frames[static_cast<std::size_t>(i_index)]));
+}

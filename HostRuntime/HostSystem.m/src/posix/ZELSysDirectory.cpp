@@ -1,0 +1,43 @@
+#include "ZELSysDirectory.h"
+
+#include "SystemPath.h"
+
+#include <dirent.h>
+
+struct ZELSysDirectory::Stream
+{
+  explicit Stream(const ZELUnicodeString& i_directory) : entries(opendir(SystemPath(i_directory).Get())) {}
+  Stream(const Stream&) = delete;
+  Stream& operator=(const Stream&) = delete;
+  ~Stream()
+  {
+    if (entries)
+      closedir(entries);
+  }
+
+  DIR* entries;
+};
+
+namespace
+{
+bool IsDots(const char* i_name)
+{
+  return i_name[0] == '.' && (i_name[1] == 0 || (i_name[1] == '.' && i_name[2] == 0));
+}
+} // namespace
+
+ZELSysDirectory::ZELSysDirectory(const ZELUnicodeString& i_directory) : _pStream(std::make_unique<Stream>(i_directory)) {}
+
+ZELSysDirectory::~ZELSysDirectory() = default;
+
+bool ZELSysDirectory::Next(ZELUnicodeString& o_name)
+{
+  while (const dirent* pEntry = _pStream->entries ? readdir(_pStream->entries) : nullptr)
+  {
+    if (IsDots(pEntry->d_name))
+      continue;
+    o_name = ZELUnicodeString::FromUTF8(pEntry->d_name);
+    return true;
+  }
+  return false;
+}

@@ -1,0 +1,58 @@
+#include "ZELSysDirectory.h"
+
+#include <windows.h>
+
+struct ZELSysDirectory::Stream
+{
+  explicit Stream(const ZELUnicodeString& i_directory)
+  {
+    const std::u16string all = i_directory.ToUTF16() + u"\\*";
+    search = FindFirstFileW(reinterpret_cast<const wchar_t*>(all.c_str()), &entry);
+    isEntryFresh = search != INVALID_HANDLE_VALUE;
+  }
+  Stream(const Stream&) = delete;
+  Stream& operator=(const Stream&) = delete;
+  ~Stream()
+  {
+    if (search != INVALID_HANDLE_VALUE)
+      FindClose(search);
+  }
+
+  // Moves to the next entry; the search has found the first one already.
+  bool Advance()
+  {
+    if (search == INVALID_HANDLE_VALUE)
+      return false;
+    const bool found = isEntryFresh || FindNextFileW(search, &entry);
+    isEntryFresh = false;
+    return found;
+  }
+
+  WIN32_FIND_DATAW entry = {};
+  HANDLE search;
+  bool isEntryFresh;
+};
+
+namespace
+{
+bool IsDots(const wchar_t* i_name)
+{
+  return i_name[0] == L'.' && (i_name[1] == 0 || (i_name[1] == L'.' && i_name[2] == 0));
+}
+} // namespace
+
+ZELSysDirectory::ZELSysDirectory(const ZELUnicodeString& i_directory) : _pStream(std::make_unique<Stream>(i_directory)) {}
+
+ZELSysDirectory::~ZELSysDirectory() = default;
+
+bool ZELSysDirectory::Next(ZELUnicodeString& o_name)
+{
+  while (_pStream->Advance())
+  {
+    if (IsDots(_pStream->entry.cFileName))
+      continue;
+    o_name = ZELUnicodeString::FromUTF16(reinterpret_cast<const char16_t*>(_pStream->entry.cFileName));
+    return true;
+  }
+  return false;
+}
