@@ -20,6 +20,8 @@ public:
   };
   // Negative: the left element goes first. 0: either. Positive: the right one.
   typedef int (*CompareFunction)(void* i_left, void* i_right);
+  // The same, told what it needs to know.
+  typedef int (*CompareWithFunction)(void* i_left, void* i_right, void* i_context);
 
   ZELRawCollPV() = default;
   // Room for i_capacity pointers; negative counts as 0.
@@ -39,6 +41,7 @@ public:
   // In place; the order of elements that compare equal is not defined. A function that is not a strict order gives some
   // order and never reads outside the collection.
   void QuickSort(CompareFunction i_compare);
+  void QuickSort(CompareWithFunction i_compare, void* i_context);
 
 private:
   bool HasPosition(int i_position, const char* i_operation) const;

@@ -40,11 +40,21 @@ void ZELRawCollPV::RemoveAll(MemoryHandling i_memory)
 }
 
 // A heap is walked by index alone, so that no answer of the function leads outside; std::sort trusts the function.
+template <class GoesFirst>
+static void SortHeap(std::vector<void*>& io_pointers, GoesFirst i_goesFirst)
+{
+  std::make_heap(io_pointers.begin(), io_pointers.end(), i_goesFirst);
+  std::sort_heap(io_pointers.begin(), io_pointers.end(), i_goesFirst);
+}
+
 void ZELRawCollPV::QuickSort(CompareFunction i_compare)
 {
-  const auto goesFirst = [i_compare](void* i_left, void* i_right) { return i_compare(i_left, i_right) < 0; };
-  std::make_heap(_pointers.begin(), _pointers.end(), goesFirst);
-  std::sort_heap(_pointers.begin(), _pointers.end(), goesFirst);
+  SortHeap(_pointers, [i_compare](void* i_left, void* i_right) { return i_compare(i_left, i_right) < 0; });
+}
+
+void ZELRawCollPV::QuickSort(CompareWithFunction i_compare, void* i_context)
+{
+  SortHeap(_pointers, [=](void* i_left, void* i_right) { return i_compare(i_left, i_right, i_context) < 0; });
 }
 
 bool ZELRawCollPV::HasPosition(int i_position, const char* i_operation) const

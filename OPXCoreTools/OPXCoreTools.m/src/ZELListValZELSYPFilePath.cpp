@@ -2,7 +2,10 @@
 
 ZELListValZELSYPFilePath::ZELListValZELSYPFilePath(int i_capacity) : _paths(i_capacity) {}
 
-ZELListValZELSYPFilePath::ZELListValZELSYPFilePath(const ZELListValZELSYPFilePath& i_other) : _paths(i_other.Size()) { AppendAll(i_other); }
+ZELListValZELSYPFilePath::ZELListValZELSYPFilePath(const ZELListValZELSYPFilePath& i_other) : _paths(i_other.Size())
+{
+  AppendAll(i_other);
+}
 
 ZELListValZELSYPFilePath& ZELListValZELSYPFilePath::operator=(const ZELListValZELSYPFilePath& i_other)
 {
@@ -13,7 +16,10 @@ ZELListValZELSYPFilePath& ZELListValZELSYPFilePath::operator=(const ZELListValZE
   return *this;
 }
 
-ZELListValZELSYPFilePath::~ZELListValZELSYPFilePath() { RemoveAll(); }
+ZELListValZELSYPFilePath::~ZELListValZELSYPFilePath()
+{
+  RemoveAll();
+}
 
 void ZELListValZELSYPFilePath::AppendAll(const ZELListValZELSYPFilePath& i_other)
 {
@@ -21,7 +27,10 @@ void ZELListValZELSYPFilePath::AppendAll(const ZELListValZELSYPFilePath& i_other
     Append(i_other[position]);
 }
 
-void ZELListValZELSYPFilePath::Append(const ZELSYPFilePath& i_path) { _paths.Append(new ZELSYPFilePath(i_path)); }
+void ZELListValZELSYPFilePath::Append(const ZELSYPFilePath& i_path)
+{
+  _paths.Append(new ZELSYPFilePath(i_path));
+}
 
 void ZELListValZELSYPFilePath::RemovePosition(int i_position)
 {
@@ -44,9 +53,15 @@ ZELSYPFilePath& ZELListValZELSYPFilePath::AtOrNowhere(int i_position) const
   return nowhere = ZELSYPFilePath();
 }
 
-ZELSYPFilePath& ZELListValZELSYPFilePath::operator[](int i_position) { return AtOrNowhere(i_position); }
+ZELSYPFilePath& ZELListValZELSYPFilePath::operator[](int i_position)
+{
+  return AtOrNowhere(i_position);
+}
 
-const ZELSYPFilePath& ZELListValZELSYPFilePath::operator[](int i_position) const { return AtOrNowhere(i_position); }
+const ZELSYPFilePath& ZELListValZELSYPFilePath::operator[](int i_position) const
+{
+  return AtOrNowhere(i_position);
+}
 
 void ZELListValZELSYPFilePath::QuickSort(int (*i_compare)(ZELSYPFilePath*, ZELSYPFilePath*))
 {
@@ -59,7 +74,10 @@ void ZELListValZELSYPFilePath::QuickSort(int (*i_compare)(ZELSYPFilePath*, ZELSY
       &i_compare);
 }
 
-int ZELListValZELSYPFilePath::operator==(const ZELListValZELSYPFilePath& i_other) const { return !(*this != i_other); }
+int ZELListValZELSYPFilePath::operator==(const ZELListValZELSYPFilePath& i_other) const
+{
+  return !(*this != i_other);
+}
 
 int ZELListValZELSYPFilePath::operator!=(const ZELListValZELSYPFilePath& i_other) const
 {

@@ -10,33 +10,66 @@ static const std::size_t NOWHERE = std::string_view::npos;
 
 ZELSYPFilePath::ZELSYPFilePath() noexcept = default;
 
-ZELSYPFilePath::ZELSYPFilePath(const char* i_path) : _path(i_path) { Normalize(); }
+ZELSYPFilePath::ZELSYPFilePath(const char* i_path) : _path(i_path)
+{
+  Normalize();
+}
 
-ZELSYPFilePath::ZELSYPFilePath(ZELString i_path) : _path(i_path) { Normalize(); }
+ZELSYPFilePath::ZELSYPFilePath(ZELString i_path) : _path(i_path)
+{
+  Normalize();
+}
 
-ZELSYPFilePath::ZELSYPFilePath(const ZELUnicodeString& i_path) : _path(i_path) { Normalize(); }
+ZELSYPFilePath::ZELSYPFilePath(const ZELUnicodeString& i_path) : _path(i_path)
+{
+  Normalize();
+}
 
 ZELSYPFilePath::ZELSYPFilePath(const ZELSYPFilePath& i_other) noexcept = default;
 
 ZELSYPFilePath& ZELSYPFilePath::operator=(const ZELSYPFilePath& i_other) noexcept = default;
 
-ZELSYPFilePath& ZELSYPFilePath::operator=(const char* i_path) { return *this = ZELSYPFilePath(i_path); }
+ZELSYPFilePath& ZELSYPFilePath::operator=(const char* i_path)
+{
+  return *this = ZELSYPFilePath(i_path);
+}
 
-ZELSYPFilePath& ZELSYPFilePath::operator=(ZELString i_path) { return *this = ZELSYPFilePath(std::move(i_path)); }
+ZELSYPFilePath& ZELSYPFilePath::operator=(ZELString i_path)
+{
+  return *this = ZELSYPFilePath(std::move(i_path));
+}
 
-ZELSYPFilePath& ZELSYPFilePath::operator=(const ZELUnicodeString& i_path) { return *this = ZELSYPFilePath(i_path); }
+ZELSYPFilePath& ZELSYPFilePath::operator=(const ZELUnicodeString& i_path)
+{
+  return *this = ZELSYPFilePath(i_path);
+}
 
 ZELSYPFilePath::~ZELSYPFilePath() = default;
 
-ZELSYPFilePath::operator const char*() const { return _path.GetNarrow(); }
+ZELSYPFilePath::operator const char*() const
+{
+  return _path.GetNarrow();
+}
 
-ZELSYPFilePath ZELSYPFilePath::FromView(std::string_view i_utf8) { return ZELSYPFilePath(ZELUnicodeString::FromUTF8(i_utf8)); }
+ZELSYPFilePath ZELSYPFilePath::FromView(std::string_view i_utf8)
+{
+  return ZELSYPFilePath(ZELUnicodeString::FromUTF8(i_utf8));
+}
 
-void ZELSYPFilePath::Normalize() { _path.Replace('/', '\\'); }
+void ZELSYPFilePath::Normalize()
+{
+  _path.Replace('/', '\\');
+}
 
-ZELSYPFilePath ZELSYPFilePath::operator+(const ZELSYPFilePath& i_path) const { return *this + i_path._path; }
+ZELSYPFilePath ZELSYPFilePath::operator+(const ZELSYPFilePath& i_path) const
+{
+  return *this + i_path._path;
+}
 
-ZELSYPFilePath ZELSYPFilePath::operator+(const ZELString& i_path) const { return *this + ZELUnicodeString(i_path); }
+ZELSYPFilePath ZELSYPFilePath::operator+(const ZELString& i_path) const
+{
+  return *this + ZELUnicodeString(i_path);
+}
 
 // Kept: one backslash is put in, whatever stands on its two sides.
 ZELSYPFilePath ZELSYPFilePath::operator+(const ZELUnicodeString& i_path) const
@@ -44,17 +77,35 @@ ZELSYPFilePath ZELSYPFilePath::operator+(const ZELUnicodeString& i_path) const
   return ZELSYPFilePath(ZELUnicodeString::Join(_path.GetUTF8(), "\\", i_path.GetUTF8()));
 }
 
-ZELSYPFilePath ZELSYPFilePath::operator+(const char* i_path) const { return *this + ZELUnicodeString(i_path); }
+ZELSYPFilePath ZELSYPFilePath::operator+(const char* i_path) const
+{
+  return *this + ZELUnicodeString(i_path);
+}
 
-ZELSYPFilePath& ZELSYPFilePath::operator+=(const char* i_path) { return *this = *this + i_path; }
+ZELSYPFilePath& ZELSYPFilePath::operator+=(const char* i_path)
+{
+  return *this = *this + i_path;
+}
 
-int ZELSYPFilePath::operator==(const ZELSYPFilePath& i_path) const { return *this == i_path._path.GetNarrow(); }
+int ZELSYPFilePath::operator==(const ZELSYPFilePath& i_path) const
+{
+  return *this == i_path._path.GetNarrow();
+}
 
-int ZELSYPFilePath::operator!=(const ZELSYPFilePath& i_path) const { return !(*this == i_path); }
+int ZELSYPFilePath::operator!=(const ZELSYPFilePath& i_path) const
+{
+  return !(*this == i_path);
+}
 
-int ZELSYPFilePath::operator==(const char* i_path) const { return i_path && EqualIgnoringCase(_path.GetNarrow(), i_path); }
+int ZELSYPFilePath::operator==(const char* i_path) const
+{
+  return i_path && EqualIgnoringCase(_path.GetNarrow(), i_path);
+}
 
-int ZELSYPFilePath::operator!=(const char* i_path) const { return !(*this == i_path); }
+int ZELSYPFilePath::operator!=(const char* i_path) const
+{
+  return !(*this == i_path);
+}
 
 int ZELSYPFilePath::IsEqual(const ZELSYPFilePath& i_path) const
 {
@@ -70,7 +121,10 @@ int ZELSYPFilePath::Compare(ZELSYPFilePath* i_pLeft, ZELSYPFilePath* i_pRight)
   return (order > 0) - (order < 0);
 }
 
-int ZELSYPFilePath::IsNull() const { return _path.IsEmpty(); }
+int ZELSYPFilePath::IsNull() const
+{
+  return _path.IsEmpty();
+}
 
 // The place of the separator before the n-th component from the end, or NOWHERE. io_text is cut to what ends with the
 // component. What is cut off once may hold slashes that an extension brought in: they count from then on.
@@ -102,7 +156,10 @@ ZELSYPFilePath ZELSYPFilePath::dirname(int n) const
 }
 
 // Kept: the dot may stand in the name of a directory.
-static std::size_t FindDot(const ZELUnicodeString& i_path) { return i_path.GetUTF8().rfind('.'); }
+static std::size_t FindDot(const ZELUnicodeString& i_path)
+{
+  return i_path.GetUTF8().rfind('.');
+}
 
 ZELString ZELSYPFilePath::GetExtension() const
 {
@@ -110,10 +167,16 @@ ZELString ZELSYPFilePath::GetExtension() const
   return dot == NOWHERE ? ZELString() : ZELUnicodeString::FromUTF8(_path.GetUTF8().substr(dot + 1)).ToNarrow();
 }
 
-int ZELSYPFilePath::HasExtension(const char* i_extension) const { return i_extension && GetExtension() == i_extension; }
+int ZELSYPFilePath::HasExtension(const char* i_extension) const
+{
+  return i_extension && GetExtension() == i_extension;
+}
 
 // Kept: no dot is put before it and no slash is turned.
-void ZELSYPFilePath::AddExtension(ZELString i_extension) { _path += i_extension; }
+void ZELSYPFilePath::AddExtension(ZELString i_extension)
+{
+  _path += i_extension;
+}
 
 void ZELSYPFilePath::SetExtension(ZELString i_extension)
 {
