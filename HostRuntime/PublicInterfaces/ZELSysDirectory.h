@@ -7,6 +7,7 @@
 #include "ZELUnicodeString.h"
 
 #include <memory>
+#include <string_view>
 
 class OPXHOSTRUNTIME_EXPORT ZELSysDirectory
 {
@@ -19,6 +20,8 @@ public:
 
   // The next entry's bare name; false when there is none left. "." and ".." are left out.
   bool Next(ZELUnicodeString& o_name);
+  // The same as a view of its UTF-8, which stays valid until the next call: nothing is allocated for it.
+  bool Next(std::string_view& o_utf8Name);
 
 private:
   struct Stream;

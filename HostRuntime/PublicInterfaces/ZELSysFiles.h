@@ -27,6 +27,9 @@ OPXHOSTRUNTIME_EXPORT int ZELSysChangeDirectory(const char* i_path);
 // The current directory with backslashes, as long as it takes fewer than i_size bytes; false when it cannot be read.
 OPXHOSTRUNTIME_EXPORT bool ZELSysGetCurrentDirectory(char* o_buffer, int i_size);
 
+// Whether all paths hang from one root, which a leading backslash names (Linux); otherwise each drive has its own.
+OPXHOSTRUNTIME_EXPORT bool ZELSysHasOneRoot();
+
 // True when the file was deleted. Directories are not.
 OPXHOSTRUNTIME_EXPORT bool ZELSysDeleteFile(const char* i_path);
 

@@ -30,13 +30,13 @@ ZELSysDirectory::ZELSysDirectory(const ZELUnicodeString& i_directory) : _pStream
 
 ZELSysDirectory::~ZELSysDirectory() = default;
 
-bool ZELSysDirectory::Next(ZELUnicodeString& o_name)
+bool ZELSysDirectory::Next(std::string_view& o_utf8Name)
 {
   while (const dirent* pEntry = _pStream->entries ? readdir(_pStream->entries) : nullptr)
   {
     if (IsDots(pEntry->d_name))
       continue;
-    o_name = ZELUnicodeString::FromUTF8(pEntry->d_name);
+    o_utf8Name = pEntry->d_name;
     return true;
   }
   return false;

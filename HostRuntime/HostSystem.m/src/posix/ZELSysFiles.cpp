@@ -55,6 +55,11 @@ bool ZELSysGetCurrentDirectory(char* o_buffer, int i_size)
   return true;
 }
 
+bool ZELSysHasOneRoot()
+{
+  return true;
+}
+
 bool ZELSysDeleteFile(const char* i_path)
 {
   return unlink(SystemPath(i_path).Get()) == 0;

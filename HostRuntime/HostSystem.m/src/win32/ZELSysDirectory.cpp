@@ -29,6 +29,7 @@ struct ZELSysDirectory::Stream
   }
 
   WIN32_FIND_DATAW entry = {};
+  ZELUnicodeString name;
   HANDLE search;
   bool isEntryFresh;
 };
@@ -45,13 +46,14 @@ ZELSysDirectory::ZELSysDirectory(const ZELUnicodeString& i_directory) : _pStream
 
 ZELSysDirectory::~ZELSysDirectory() = default;
 
-bool ZELSysDirectory::Next(ZELUnicodeString& o_name)
+bool ZELSysDirectory::Next(std::string_view& o_utf8Name)
 {
   while (_pStream->Advance())
   {
     if (IsDots(_pStream->entry.cFileName))
       continue;
-    o_name = ZELUnicodeString::FromUTF16(reinterpret_cast<const char16_t*>(_pStream->entry.cFileName));
+    _pStream->name = ZELUnicodeString::FromUTF16(reinterpret_cast<const char16_t*>(_pStream->entry.cFileName));
+    o_utf8Name = _pStream->name.GetUTF8();
     return true;
   }
   return false;

@@ -30,6 +30,11 @@ bool ZELSysGetCurrentDirectory(char* o_buffer, int i_size)
   return o_buffer && i_size > 0 && _getcwd(o_buffer, i_size);
 }
 
+bool ZELSysHasOneRoot()
+{
+  return false;
+}
+
 bool ZELSysDeleteFile(const char* i_path)
 {
   return DeleteFileA(SystemPath(i_path).Get()) != 0;
