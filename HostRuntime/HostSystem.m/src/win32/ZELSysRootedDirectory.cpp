@@ -1,0 +1,174 @@
+#include "ZELSysRootedDirectory.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+#include <windows.h>
+
+#include <winternl.h>
+
+namespace
+{
+constexpr std::intptr_t notOpen = -1;
+constexpr std::uint64_t ticksPerSecond = 10000000;
+constexpr ACCESS_MASK directoryAccess = FILE_LIST_DIRECTORY | FILE_TRAVERSE | FILE_READ_ATTRIBUTES | SYNCHRONIZE;
+constexpr ULONG shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+HANDLE AsHandle(std::intptr_t i_handle)
+{
+  return reinterpret_cast<HANDLE>(i_handle);
+}
+
+// A colon would name a drive or a stream inside a file.
+bool IsEntryName(std::string_view i_name)
+{
+  return !i_name.empty() && i_name != "." && i_name != ".." && i_name.find_first_of(std::string_view("/\\:\0", 4)) == i_name.npos;
+}
+
+std::uint64_t GetTicks(const FILETIME& i_time)
+{
+  return static_cast<std::uint64_t>(i_time.dwHighDateTime) << 32 | i_time.dwLowDateTime;
+}
+
+// File systems count their times in steps of up to two seconds; the finer ones show a fraction.
+bool IsSettled(std::uint64_t i_changed)
+{
+  FILETIME now;
+  GetSystemTimeAsFileTime(&now);
+  const std::uint64_t step = i_changed % ticksPerSecond == 0 ? 2 * ticksPerSecond : ticksPerSecond / 20;
+  return i_changed + step < GetTicks(now);
+}
+
+ZELSysRootedDirectory::Kind GetKind(DWORD i_attributes)
+{
+  if (i_attributes & FILE_ATTRIBUTE_REPARSE_POINT)
+    return ZELSysRootedDirectory::Link;
+  if (i_attributes & FILE_ATTRIBUTE_DIRECTORY)
+    return ZELSysRootedDirectory::Directory;
+  return i_attributes & FILE_ATTRIBUTE_DEVICE ? ZELSysRootedDirectory::Other : ZELSysRootedDirectory::File;
+}
+
+// Opens an entry of an open directory by its bare name, itself and not what it leads to. The usual calls take a path
+// only, every part of which may be exchanged for a link meanwhile.
+std::intptr_t OpenEntry(std::intptr_t i_directory, std::string_view i_name, ACCESS_MASK i_access, ULONG i_options)
+{
+  std::u16string name = ZELUnicodeString::FromUTF8(i_name).ToUTF16();
+  UNICODE_STRING text;
+  text.Buffer = reinterpret_cast<wchar_t*>(name.data());
+  text.Length = text.MaximumLength = static_cast<USHORT>(name.size() * sizeof(char16_t));
+  OBJECT_ATTRIBUTES object;
+  InitializeObjectAttributes(&object, &text, OBJ_CASE_INSENSITIVE, AsHandle(i_directory), nullptr);
+  HANDLE handle = INVALID_HANDLE_VALUE;
+  IO_STATUS_BLOCK status;
+  const ULONG options = i_options | FILE_OPEN_REPARSE_POINT | FILE_SYNCHRONOUS_IO_NONALERT;
+  const NTSTATUS result = NtCreateFile(&handle, i_access, &object, &status, nullptr, 0, shareAll, FILE_OPEN, options, nullptr, 0);
+  return result >= 0 ? reinterpret_cast<std::intptr_t>(handle) : notOpen;
+}
+
+bool GetInformation(std::intptr_t i_handle, BY_HANDLE_FILE_INFORMATION& o_information)
+{
+  return i_handle != notOpen && GetFileInformationByHandle(AsHandle(i_handle), &o_information);
+}
+
+void VisitEntry(const FILE_ID_BOTH_DIR_INFO& i_entry, const ZELSysRootedDirectory::Visitor& i_visitor)
+{
+  const std::u16string_view wide(reinterpret_cast<const char16_t*>(i_entry.FileName), i_entry.FileNameLength / sizeof(char16_t));
+  if (wide == u"." || wide == u"..")
+    return;
+  const ZELUnicodeString name = ZELUnicodeString::FromUTF16(wide);
+  i_visitor(name.GetUTF8(), GetKind(i_entry.FileAttributes));
+}
+
+void VisitBlock(const char* i_block, const ZELSysRootedDirectory::Visitor& i_visitor)
+{
+  const auto* pEntry = reinterpret_cast<const FILE_ID_BOTH_DIR_INFO*>(i_block);
+  VisitEntry(*pEntry, i_visitor);
+  while (pEntry->NextEntryOffset != 0)
+  {
+    i_block += pEntry->NextEntryOffset;
+    pEntry = reinterpret_cast<const FILE_ID_BOTH_DIR_INFO*>(i_block);
+    VisitEntry(*pEntry, i_visitor);
+  }
+}
+} // namespace
+
+ZELSysRootedDirectory::ZELSysRootedDirectory(const ZELUnicodeString& i_path)
+    : _handle(reinterpret_cast<std::intptr_t>(CreateFileW(reinterpret_cast<const wchar_t*>(i_path.ToUTF16().c_str()), directoryAccess,
+                                                          shareAll, nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr)))
+{
+  BY_HANDLE_FILE_INFORMATION information;
+  if (!GetInformation(_handle, information) || !(information.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY))
+    *this = ZELSysRootedDirectory(notOpen);
+}
+
+ZELSysRootedDirectory::ZELSysRootedDirectory(std::intptr_t i_handle) noexcept : _handle(i_handle) {}
+
+ZELSysRootedDirectory::ZELSysRootedDirectory(ZELSysRootedDirectory&& io_other) noexcept : _handle(std::exchange(io_other._handle, notOpen))
+{
+}
+
+ZELSysRootedDirectory& ZELSysRootedDirectory::operator=(ZELSysRootedDirectory&& io_other) noexcept
+{
+  std::swap(_handle, io_other._handle);
+  return *this;
+}
+
+ZELSysRootedDirectory::~ZELSysRootedDirectory()
+{
+  if (IsOpen())
+    CloseHandle(AsHandle(_handle));
+}
+
+bool ZELSysRootedDirectory::IsOpen() const noexcept
+{
+  return _handle != notOpen;
+}
+
+ZELSysRootedDirectory ZELSysRootedDirectory::OpenDirectory(std::string_view i_name) const
+{
+  if (!IsOpen() || !IsEntryName(i_name))
+    return ZELSysRootedDirectory(notOpen);
+  ZELSysRootedDirectory directory(OpenEntry(_handle, i_name, directoryAccess, FILE_DIRECTORY_FILE));
+  BY_HANDLE_FILE_INFORMATION information;
+  const bool isServed = GetInformation(directory._handle, information) && GetKind(information.dwFileAttributes) == Directory;
+  return isServed ? std::move(directory) : ZELSysRootedDirectory(notOpen);
+}
+
+ZELSysRootedDirectory::Stamp ZELSysRootedDirectory::GetStamp() const
+{
+  Stamp stamp;
+  BY_HANDLE_FILE_INFORMATION information;
+  if (!GetInformation(_handle, information))
+    return stamp;
+  stamp.volume = information.dwVolumeSerialNumber;
+  stamp.object = static_cast<std::uint64_t>(information.nFileIndexHigh) << 32 | information.nFileIndexLow;
+  stamp.lastWrite = stamp.lastChange = GetTicks(information.ftLastWriteTime);
+  stamp.isSettled = IsSettled(stamp.lastWrite);
+  return stamp;
+}
+
+bool ZELSysRootedDirectory::ForEachEntry(const Visitor& i_visitor) const
+{
+  std::vector<char> block(65536);
+  FILE_INFO_BY_HANDLE_CLASS wanted = FileIdBothDirectoryRestartInfo;
+  while (GetFileInformationByHandleEx(AsHandle(_handle), wanted, block.data(), static_cast<DWORD>(block.size())))
+  {
+    VisitBlock(block.data(), i_visitor);
+    wanted = FileIdBothDirectoryInfo;
+  }
+  return GetLastError() == ERROR_NO_MORE_FILES;
+}
+
+bool ZELSysRootedDirectory::GetDetails(std::string_view i_name, Details& o_details) const
+{
+  if (!IsOpen() || !IsEntryName(i_name))
+    return false;
+  const ZELSysRootedDirectory entry(OpenEntry(_handle, i_name, FILE_READ_ATTRIBUTES | SYNCHRONIZE, 0));
+  BY_HANDLE_FILE_INFORMATION information;
+  if (!GetInformation(entry._handle, information))
+    return false;
+  const bool isFile = GetKind(information.dwFileAttributes) == File;
+  o_details.size = isFile ? static_cast<std::uint64_t>(information.nFileSizeHigh) << 32 | information.nFileSizeLow : 0;
+  o_details.lastWriteTime = GetTicks(information.ftLastWriteTime);
+  return true;
+}

@@ -1,0 +1,116 @@
+#include "OPXTreeSession.h"
+
+#include "OPXTreeDataSource.h"
+#include "OPXTreeError.h"
+#include "OPXTreeMessageReader.h"
+#include "OPXTreeMethods.h"
+
+#include <exception>
+#include <nlohmann/json.hpp>
+
+namespace
+{
+void NeedRequest(bool i_holds, const char* i_reason)
+{
+  if (!i_holds)
+    throw OPXTreeError(OPXTreeError::InvalidRequest, {{"reason", i_reason}});
+}
+
+bool IsID(const nlohmann::json& i_value)
+{
+  return i_value.is_string() || i_value.is_number() || i_value.is_null();
+}
+
+void CheckRequest(const nlohmann::json& i_request)
+{
+  NeedRequest(i_request.is_object(), "a request is an object");
+  NeedRequest(!i_request.contains("id") || IsID(i_request["id"]), "\"id\" is a string, a number or null");
+  NeedRequest(i_request.contains("jsonrpc") && i_request["jsonrpc"] == "2.0", "\"jsonrpc\" is \"2.0\"");
+  NeedRequest(i_request.contains("method") && i_request["method"].is_string(), "\"method\" is a string");
+  NeedRequest(!i_request.contains("params") || i_request["params"].is_structured(), "\"params\" is an object or an array");
+}
+
+// As JSON text; null when it cannot be told.
+std::string GetID(const nlohmann::json& i_request)
+{
+  return i_request.contains("id") && IsID(i_request["id"]) ? i_request["id"].dump() : "null";
+}
+
+// Whatever went wrong, as an answer. To be called while an exception is handled.
+std::string AnswerCurrentException(const std::string& i_id)
+{
+  try
+  {
+    throw;
+  }
+  catch (const OPXTreeError& error)
+  {
+    return error.ToAnswer(i_id);
+  }
+  catch (const std::exception& error)
+  {
+    return OPXTreeError(OPXTreeError::InternalError, {{"reason", error.what()}}).ToAnswer(i_id);
+  }
+  catch (...)
+  {
+    return OPXTreeError(OPXTreeError::InternalError, {{"reason", "unknown"}}).ToAnswer(i_id);
+  }
+}
+
+std::string AnswerResult(const std::string& i_id, const std::string& i_result)
+{
+  return "{\"jsonrpc\":\"2.0\",\"id\":" + i_id + ",\"result\":" + i_result + "}";
+}
+} // namespace
+
+OPXTreeSession::OPXTreeSession(OPXTreeDataSource& i_source) : _source(i_source) {}
+
+std::string OPXTreeSession::Answer(std::string_view i_message) const
+{
+  try
+  {
+    nlohmann::json message = OPXTreeMessageReader::Read(i_message);
+    return message.is_array() ? AnswerBatch(message) : AnswerRequest(message);
+  }
+  catch (...)
+  {
+    return AnswerCurrentException("null");
+  }
+}
+
+std::string OPXTreeSession::AnswerOversized()
+{
+  return OPXTreeError::MessageTooLong().ToAnswer("null");
+}
+
+std::string OPXTreeSession::AnswerBatch(nlohmann::json& io_batch) const
+{
+  NeedRequest(!io_batch.empty(), "a batch holds at least one request");
+  std::string answers;
+  for (nlohmann::json& request : io_batch)
+  {
+    const std::string answer = AnswerRequest(request);
+    if (!answer.empty())
+      answers += (answers.empty() ? "[" : ",") + answer;
+  }
+  return answers.empty() ? answers : answers + "]";
+}
+
+std::string OPXTreeSession::AnswerRequest(nlohmann::json& io_request) const
+{
+  const std::string id = GetID(io_request);
+  bool isNotification = false;
+  std::string answer;
+  try
+  {
+    CheckRequest(io_request);
+    isNotification = !io_request.contains("id");
+    // Parameters that are left out are null, which no method takes.
+    answer = AnswerResult(id, OPXTreeMethods::Call(_source, io_request["method"].get<std::string>(), io_request["params"]));
+  }
+  catch (...)
+  {
+    answer = AnswerCurrentException(id);
+  }
+  return isNotification ? std::string() : answer;
+}
