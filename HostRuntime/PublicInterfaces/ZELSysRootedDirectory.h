@@ -13,7 +13,9 @@
 
 #include <cstdint>
 #include <functional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 class OPXHOSTRUNTIME_EXPORT ZELSysRootedDirectory
 {
@@ -66,6 +68,8 @@ public:
   bool IsOpen() const noexcept;
   // One step down. Not open when the entry is no directory, is a link, or may not be read.
   ZELSysRootedDirectory OpenDirectory(std::string_view i_name) const;
+  // One step after the other; no step at all opens this directory once more.
+  ZELSysRootedDirectory OpenDescendant(const std::vector<std::string>& i_names) const;
 
   Stamp GetStamp() const;
   // Visits every entry but "." and "..", in the system's own order. False when the listing broke off.
@@ -75,6 +79,7 @@ public:
 
 private:
   explicit ZELSysRootedDirectory(std::intptr_t i_handle) noexcept;
+  ZELSysRootedDirectory Duplicate() const;
 
   std::intptr_t _handle;
 };

@@ -26,9 +26,19 @@ Record MakeRecord(const nlohmann::json& i_params)
 }
 
 // A source's texts may be in any encoding; what is sent is always UTF-8.
-std::string Dump(const nlohmann::json& i_value)
+template <class Answer>
+std::string Write(const Answer& i_answer)
 {
-  return i_value.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+  std::string text;
+  try
+  {
+    i_answer.WriteJSON(text);
+  }
+  catch (const nlohmann::json::type_error&)
+  {
+    text = i_answer.ComputeJSON().dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+  }
+  return text;
 }
 
 nlohmann::json CollectNotFound(const Records::TreeNodesAnswerParameters& i_answer, int i_requestCount)
@@ -45,29 +55,29 @@ std::string CallRows(OPXTreeDataSource& io_source, nlohmann::json& io_params)
   OPXTreeParametersCheck::CheckRows(io_params);
   const auto request = MakeRecord<Records::TreeNodesRequestParameters>(io_params);
   const auto answer = io_source.RequestRows(request);
-  nlohmann::json result = answer.ComputeJSON();
-  nlohmann::json notFound = CollectNotFound(answer, request.GetRequestCount());
+  std::string result = Write(answer);
+  const nlohmann::json notFound = CollectNotFound(answer, request.GetRequestCount());
   if (!notFound.empty())
-    result["notFound"] = std::move(notFound);
-  return Dump(result);
+    result.replace(result.size() - 1, 1, ",\"notFound\":" + notFound.dump() + "}");
+  return result;
 }
 
 std::string CallStructure(OPXTreeDataSource& io_source, nlohmann::json& io_params)
 {
   OPXTreeParametersCheck::CheckStructure(io_params);
-  return Dump(io_source.RequestStructure(MakeRecord<Records::TreeNodesModelStructureParameters>(io_params)).ComputeJSON());
+  return Write(io_source.RequestStructure(MakeRecord<Records::TreeNodesModelStructureParameters>(io_params)));
 }
 
 std::string CallCollapseExpand(OPXTreeDataSource& io_source, nlohmann::json& io_params)
 {
   OPXTreeParametersCheck::CheckCollapseExpand(io_params);
-  return Dump(io_source.RequestCollapseExpand(MakeRecord<Records::ModelCollapseExpandParameters>(io_params)).ComputeJSON());
+  return Write(io_source.RequestCollapseExpand(MakeRecord<Records::ModelCollapseExpandParameters>(io_params)));
 }
 
 std::string CallSelectionChange(OPXTreeDataSource& io_source, nlohmann::json& io_params)
 {
   OPXTreeParametersCheck::CheckSelectionChange(io_params);
-  return Dump(io_source.RequestSelectionChange(MakeRecord<Records::SelectionChangeParameters>(io_params)).ComputeJSON());
+  return Write(io_source.RequestSelectionChange(MakeRecord<Records::SelectionChangeParameters>(io_params)));
 }
 
 std::string CallPointerEvent(OPXTreeDataSource& io_source, nlohmann::json& io_params)

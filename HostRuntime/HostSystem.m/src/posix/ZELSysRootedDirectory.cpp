@@ -105,6 +105,11 @@ ZELSysRootedDirectory ZELSysRootedDirectory::OpenDirectory(std::string_view i_na
   return ZELSysRootedDirectory(openat(static_cast<int>(_handle), std::string(i_name).c_str(), directoryFlags | O_NOFOLLOW));
 }
 
+ZELSysRootedDirectory ZELSysRootedDirectory::Duplicate() const
+{
+  return ZELSysRootedDirectory(IsOpen() ? fcntl(static_cast<int>(_handle), F_DUPFD_CLOEXEC, 0) : notOpen);
+}
+
 ZELSysRootedDirectory::Stamp ZELSysRootedDirectory::GetStamp() const
 {
   Stamp stamp;

@@ -134,6 +134,14 @@ ZELSysRootedDirectory ZELSysRootedDirectory::OpenDirectory(std::string_view i_na
   return isServed ? std::move(directory) : ZELSysRootedDirectory(notOpen);
 }
 
+ZELSysRootedDirectory ZELSysRootedDirectory::Duplicate() const
+{
+  HANDLE copy = INVALID_HANDLE_VALUE;
+  const HANDLE process = GetCurrentProcess();
+  DuplicateHandle(process, AsHandle(_handle), process, &copy, 0, FALSE, DUPLICATE_SAME_ACCESS);
+  return ZELSysRootedDirectory(reinterpret_cast<std::intptr_t>(copy));
+}
+
 ZELSysRootedDirectory::Stamp ZELSysRootedDirectory::GetStamp() const
 {
   Stamp stamp;

@@ -1,0 +1,122 @@
+#include "OPXExplorerTreePrinter.h"
+
+#include "OPXExplorerSpinner.h"
+#include "OPXTreeSession.h"
+#include "ZELSysStandardStreams.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+
+namespace
+{
+constexpr std::size_t levels = 2;
+constexpr int rowsPerDirectory = 10;
+constexpr std::size_t nameColumns = 44;
+
+std::string MakeIndent(std::size_t i_level)
+{
+  return std::string(2 * i_level, ' ');
+}
+
+// Every byte of a character but its first one is a continuation.
+std::size_t CountCharacters(const std::string& i_text)
+{
+  const auto isFirst = [](char i_character) { return (static_cast<unsigned char>(i_character) & 0xC0) != 0x80; };
+  return static_cast<std::size_t>(std::count_if(i_text.begin(), i_text.end(), isFirst));
+}
+
+std::string Pad(std::string i_text)
+{
+  i_text.append(nameColumns - std::min(nameColumns, CountCharacters(i_text)), ' ');
+  return i_text;
+}
+
+// A name may hold anything, a terminal's commands included.
+std::string MakePrintable(std::string i_name)
+{
+  const auto isControl = [](char i_character) { return static_cast<unsigned char>(i_character) < 0x20 || i_character == 0x7F; };
+  std::replace_if(i_name.begin(), i_name.end(), isControl, '?');
+  return i_name;
+}
+
+std::string MakeSize(std::uint64_t i_bytes)
+{
+  constexpr const char* units[] = {"B", "kB", "MB", "GB", "TB", "PB", "EB"};
+  auto size = static_cast<double>(i_bytes);
+  std::size_t unit = 0;
+  for (; size >= 999.5; size /= 1000)
+    ++unit;
+  char text[32];
+  std::snprintf(text, sizeof text, unit > 0 && size < 9.95 ? "%7.1f %-2s" : "%7.0f %-2s", size, units[unit]);
+  return text;
+}
+
+// "2026-11-20T10:11:12Z" as "2026-11-20 10:11".
+std::string MakeDate(const std::string& i_modified)
+{
+  return i_modified.empty() ? i_modified
+                            : i_modified.substr(0, i_modified.find('T')) + " " + i_modified.substr(i_modified.find('T') + 1, 5);
+}
+
+std::string MakeLine(const nlohmann::json& i_row, std::size_t i_level)
+{
+  const std::string kind = i_row["kind"];
+  const std::string mark = kind == "directory" ? "/" : kind == "link" ? "@" : "";
+  const std::string name = Pad(MakeIndent(i_level) + MakePrintable(i_row["name"]) + mark);
+  const std::string size = kind == "file" ? MakeSize(i_row.value("size", std::uint64_t{0})) : std::string(10, ' ');
+  return name + size + "  " + MakeDate(i_row.value("modified", ""));
+}
+
+bool Write(std::string i_line)
+{
+  i_line.erase(i_line.find_last_not_of(' ') + 1);
+  return ZELSysWriteStandardOutput(i_line + "\n");
+}
+} // namespace
+
+OPXExplorerTreePrinter::OPXExplorerTreePrinter(const OPXTreeSession& i_session) : _session(i_session) {}
+
+bool OPXExplorerTreePrinter::Print()
+{
+  return PrintLevel({});
+}
+
+bool OPXExplorerTreePrinter::PrintLevel(const Path& i_path)
+{
+  const nlohmann::json answer = RequestRows(i_path);
+  if (answer.contains("error"))
+  {
+    ZELSysWriteStandardError("opx-explorer: " + answer["error"].dump() + "\n");
+    return false;
+  }
+  const nlohmann::json& result = answer["result"]["groupedRequestResult"];
+  bool isGood = true;
+  for (const nlohmann::json& row : result["rows"][0])
+    isGood = PrintRow(row, i_path) && isGood;
+  const int more = result["numberOfChildren"][0].get<int>() - static_cast<int>(result["rows"][0].size());
+  if (more > 0)
+    Write(MakeIndent(i_path.size()) + "... and " + std::to_string(more) + " more");
+  if (answer["result"].contains("notFound"))
+    Write(MakeIndent(i_path.size()) + "(not readable)");
+  return isGood;
+}
+
+bool OPXExplorerTreePrinter::PrintRow(const nlohmann::json& i_row, const Path& i_path)
+{
+  Write(MakeLine(i_row, i_path.size()));
+  if (!i_row["wux_group"].get<bool>() || i_path.size() + 1 == levels)
+    return true;
+  Path path = i_path;
+  path.push_back(i_row["id"]);
+  return PrintLevel(path);
+}
+
+nlohmann::json OPXExplorerTreePrinter::RequestRows(const Path& i_path) const
+{
+  const nlohmann::json params{{"startRow", 0}, {"endRow", rowsPerDirectory}, {"groupKeys", i_path}};
+  const nlohmann::json request{{"jsonrpc", "2.0"}, {"id", 1}, {"method", "tree/rows"}, {"params", params}};
+  const OPXExplorerSpinner spinner("reading " + (i_path.empty() ? std::string("the directory") : MakePrintable(i_path.back())));
+  return nlohmann::json::parse(_session.Answer(request.dump()));
+}

@@ -1,0 +1,32 @@
+// OPXExplorerTreePrinter: the first levels of a tree as indented lines for a person, asked of a session like any view.
+// return OPXExplorerTreePrinter(session).Print();
+#ifndef OPXExplorerTreePrinter_H
+#define OPXExplorerTreePrinter_H
+
+#include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
+
+class OPXTreeSession;
+
+class OPXExplorerTreePrinter
+{
+public:
+  // The session is borrowed for the life of the printer.
+  explicit OPXExplorerTreePrinter(const OPXTreeSession& i_session);
+
+  // Two levels, a few rows a directory, to standard output. False when the tree could not be read, which is told on
+  // standard error.
+  bool Print();
+
+private:
+  using Path = std::vector<std::string>;
+
+  bool PrintLevel(const Path& i_path);
+  bool PrintRow(const nlohmann::json& i_row, const Path& i_path);
+  nlohmann::json RequestRows(const Path& i_path) const;
+
+  const OPXTreeSession& _session;
+};
+
+#endif
