@@ -60,6 +60,7 @@ public:
   const char* KeepForm(std::string_view i_form) const;
 
 private:
+  explicit ZELSharedText(std::size_t i_length);
   void Attach() const noexcept;
   void Detach() noexcept;
   bool HasRoomFor(std::size_t i_length) const noexcept;

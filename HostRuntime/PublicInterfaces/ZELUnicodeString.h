@@ -74,7 +74,7 @@ public:
   int ComputeHashKey() const noexcept { return ZELTextHash(GetUTF8()); }
 
 private:
-  explicit ZELUnicodeString(ZELSharedText i_text, int i_characters) noexcept;
+  ZELUnicodeString(ZELSharedText&& io_text, int i_characters) noexcept;
 
   // Every character is one byte, as in any ASCII text: then positions are offsets and the narrow view is the text.
   bool IsPlain() const noexcept { return _text.GetCharacters() == _text.GetLength(); }

@@ -1,12 +1,11 @@
 #include "TextCharacters.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 
 namespace
 {
-constexpr std::uint64_t HighBits = 0x8080808080808080u;
-
 unsigned char ByteAt(const char* i_here) noexcept
 {
   return static_cast<unsigned char>(*i_here);
@@ -45,16 +44,20 @@ char EncodedByte(char32_t i_bits, char32_t i_mark) noexcept
   return static_cast<char>(static_cast<unsigned char>(i_mark | i_bits));
 }
 
-// The offset where the first byte that is not ASCII may stand: at most seven bytes before it.
-std::size_t SkipASCII(std::string_view i_text, std::size_t i_offset) noexcept
+bool IsPlainWord(const char* i_bytes) noexcept
 {
-  for (std::uint64_t word; i_offset + sizeof word <= i_text.size(); i_offset += sizeof word)
-  {
-    std::memcpy(&word, i_text.data() + i_offset, sizeof word);
-    if ((word & HighBits) != 0)
-      break;
-  }
-  return i_offset;
+  std::uint64_t word;
+  std::memcpy(&word, i_bytes, sizeof word);
+  return (word & 0x8080808080808080u) == 0;
+}
+
+// The first offset whose next eight bytes are not all ASCII, or are no longer in the text.
+std::size_t SkipASCII(std::string_view i_text) noexcept
+{
+  std::size_t offset = 0;
+  while (offset + sizeof(std::uint64_t) <= i_text.size() && IsPlainWord(i_text.data() + offset))
+    offset += sizeof(std::uint64_t);
+  return offset;
 }
 } // namespace
 
@@ -64,11 +67,17 @@ char32_t DecodeCharacter(const char*& io_here, const char* i_end) noexcept
   const unsigned char lead = ByteAt(io_here);
   const std::ptrdiff_t length = GetSequenceLength(lead);
   if (length == 1)
-    return ++io_here, lead;
+  {
+    ++io_here;
+    return lead;
+  }
   const bool isWhole = length != 0 && i_end - io_here >= length;
   const char32_t character = isWhole ? GatherBits(io_here, length) : BrokenByte;
   if (character >= BrokenByte || character < Smallest[length])
-    return ++io_here, BrokenByte + lead;
+  {
+    ++io_here;
+    return BrokenByte + lead;
+  }
   io_here += length;
   return character;
 }
@@ -84,25 +93,26 @@ char* EncodeCharacter(char32_t i_character, char* o_bytes) noexcept
 {
   static constexpr char32_t LeadMarks[] = {0, 0, 0xC0, 0xE0, 0xF0};
   const std::size_t length = GetEncodedLength(i_character);
-  if (length == 1)
-    return *o_bytes = EncodedByte(i_character & 0xFF, 0), o_bytes + 1;
   for (std::size_t at = length - 1; at > 0; --at, i_character >>= 6)
     o_bytes[at] = EncodedByte(i_character & 0x3F, 0x80);
-  *o_bytes = EncodedByte(i_character, LeadMarks[length]);
+  // What is above a byte is the mark of a broken one.
+  *o_bytes = EncodedByte(i_character & 0xFF, LeadMarks[length]);
   return o_bytes + length;
 }
 
 bool IsASCII(std::string_view i_text) noexcept
 {
-  for (std::size_t at = SkipASCII(i_text, 0); at < i_text.size(); ++at)
-    if (ByteAt(i_text.data() + at) >= 0x80)
-      return false;
-  return true;
+  const std::size_t plain = SkipASCII(i_text);
+  if (i_text.size() >= sizeof(std::uint64_t))
+    return i_text.size() - plain < sizeof(std::uint64_t) && IsPlainWord(i_text.data() + i_text.size() - sizeof(std::uint64_t));
+  return std::all_of(i_text.begin(), i_text.end(), [](char i_byte) { return static_cast<unsigned char>(i_byte) < 0x80; });
 }
 
 int CountCharacters(std::string_view i_text) noexcept
 {
-  const std::size_t plain = SkipASCII(i_text, 0);
+  if (IsASCII(i_text))
+    return static_cast<int>(i_text.size());
+  const std::size_t plain = SkipASCII(i_text);
   int characters = static_cast<int>(plain);
   ForEachCharacter(i_text.substr(plain), [&](char32_t) { ++characters; });
   return characters;

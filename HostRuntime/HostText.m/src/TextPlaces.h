@@ -9,14 +9,20 @@
 #include <cstddef>
 #include <string_view>
 
+// One byte, most often a separator, is found without comparing texts at each offset.
+inline std::size_t FindLast(std::string_view i_text, std::string_view i_part, std::size_t i_start) noexcept
+{
+  return i_part.size() == 1 ? i_text.rfind(i_part.front(), i_start) : i_text.rfind(i_part, i_start);
+}
+
 // The offset of i_part that the search finds from i_start on, among those that i_isPlace accepts, or npos.
 template <class IsPlace>
 std::size_t FindPlace(std::string_view i_text, std::string_view i_part, std::size_t i_start, ZELTextSearch i_mode, IsPlace i_isPlace)
 {
   const bool isForward = i_mode == ZELTextSearch::Forward;
-  std::size_t place = isForward ? i_text.find(i_part, i_start) : i_text.rfind(i_part, i_start);
+  std::size_t place = isForward ? i_text.find(i_part, i_start) : FindLast(i_text, i_part, i_start);
   while (place != std::string_view::npos && !i_isPlace(place))
-    place = isForward ? i_text.find(i_part, place + 1) : place == 0 ? std::string_view::npos : i_text.rfind(i_part, place - 1);
+    place = isForward ? i_text.find(i_part, place + 1) : place == 0 ? std::string_view::npos : FindLast(i_text, i_part, place - 1);
   return place;
 }
 

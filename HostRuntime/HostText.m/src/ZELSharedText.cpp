@@ -22,24 +22,27 @@ std::size_t GrownCapacity(std::size_t i_needed) noexcept
 }
 } // namespace
 
+ZELSharedText::ZELSharedText(std::size_t i_length)
+{
+  if (i_length == 0)
+    return;
+  char* const bytes = ZELTextBuffer::Make(i_length)->GetBytes();
+  bytes[i_length] = '\0';
+  _pText = bytes;
+  _length = static_cast<int>(i_length);
+}
+
 ZELSharedText ZELSharedText::MakeRoom(std::size_t i_length, char*& o_bytes)
 {
-  ZELSharedText text;
-  o_bytes = nullptr;
-  if (i_length == 0)
-    return text;
-  o_bytes = ZELTextBuffer::Make(i_length)->GetBytes();
-  o_bytes[i_length] = '\0';
-  text._pText = o_bytes;
-  text._length = static_cast<int>(i_length);
+  ZELSharedText text(i_length);
+  o_bytes = const_cast<char*>(text._pText);
   return text;
 }
 
 ZELSharedText::ZELSharedText(std::string_view i_first, std::string_view i_second, std::string_view i_third)
+    : ZELSharedText(i_first.size() + i_second.size() + i_third.size())
 {
-  char* bytes;
-  *this = MakeRoom(i_first.size() + i_second.size() + i_third.size(), bytes);
-  Copy(i_third, Copy(i_second, Copy(i_first, bytes)));
+  Copy(i_third, Copy(i_second, Copy(i_first, const_cast<char*>(_pText))));
 }
 
 bool ZELSharedText::HasRoomFor(std::size_t i_length) const noexcept

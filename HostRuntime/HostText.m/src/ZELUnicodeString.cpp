@@ -43,7 +43,7 @@ bool EndsBefore(std::string_view i_next) noexcept
 }
 } // namespace
 
-ZELUnicodeString::ZELUnicodeString(ZELSharedText i_text, int i_characters) noexcept : _text(std::move(i_text))
+ZELUnicodeString::ZELUnicodeString(ZELSharedText&& io_text, int i_characters) noexcept : _text(std::move(io_text))
 {
   _text.SetCharacters(i_characters);
 }
