@@ -6,9 +6,9 @@
 #ifndef ZELMutex_H
 #define ZELMutex_H
 
-#include <mutex>
+#include "OPXHostRuntimeExport.h"
 
-class ZELMutex
+class OPXHOSTRUNTIME_EXPORT ZELMutex
 {
 public:
   // The three flags are the host's own; the locks of this host are all alike, and none may be taken twice by one thread.
@@ -16,10 +16,10 @@ public:
   ZELMutex(const ZELMutex&) = delete;
   ZELMutex& operator=(const ZELMutex&) = delete;
 
-  void Lock() { _mutex.lock(); }
-  void Unlock() { _mutex.unlock(); }
+  void Lock();
+  void Unlock();
   // 1 when the lock was taken, 0 when another thread holds it.
-  int TryLock() { return _mutex.try_lock() ? 1 : 0; }
+  int TryLock();
 
   // The names that std::lock_guard and its kin call.
   void lock() { Lock(); }
@@ -27,7 +27,8 @@ public:
   bool try_lock() { return TryLock() != 0; }
 
 private:
-  std::mutex _mutex;
+  // Room for the system's own lock, which is free when all of it is 0.
+  void* _state[5] = {};
 };
 
 #endif
