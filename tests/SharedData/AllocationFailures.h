@@ -1,0 +1,28 @@
+// AllocationFailures: while it lives, memory asked for without exceptions is refused.
+// { AllocationFailures refused; array.Append(1); }
+//
+// It replaces the global operators of the test program. Headers compiled into the program obey it everywhere; libraries
+// do where the system resolves their operators in the program first (Linux), and not where each library brings its own
+// (Windows). One thread at a time.
+#ifndef AllocationFailures_H
+#define AllocationFailures_H
+
+class AllocationFailures
+{
+public:
+  AllocationFailures() noexcept { s_refusing = true; }
+  ~AllocationFailures() { s_refusing = false; }
+  AllocationFailures(const AllocationFailures&) = delete;
+  AllocationFailures& operator=(const AllocationFailures&) = delete;
+
+  static bool IsRefusing() noexcept { return s_refusing; }
+  // How often memory was asked for in this way since the program started, refused or not.
+  static int GetRequestCount() noexcept { return s_requests; }
+  static void CountRequest() noexcept { ++s_requests; }
+
+private:
+  static bool s_refusing;
+  static int s_requests;
+};
+
+#endif
