@@ -10,8 +10,8 @@
 #include <poll.h>
 #include <spawn.h>
 #include <stdexcept>
-#include <sys/pidfd.h>
 #include <sys/socket.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -156,7 +156,8 @@ ChildResult ChildProcess::Run() const
   const pid_t child = Start(_program, _arguments, Environment(_environment), in.Child(), out.Child(), err.Child());
   for (Channel* pChannel : {&in, &out, &err})
     pChannel->Close(1);
-  const int end = pidfd_open(child, 0);
+  // The C library's own declaration (2.36) has no C linkage.
+  const int end = static_cast<int>(syscall(SYS_pidfd_open, child, 0));
   const Deadline deadline(_seconds);
   std::string_view rest = _input;
   for (bool running = true; running;)
