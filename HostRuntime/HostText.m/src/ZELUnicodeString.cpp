@@ -37,7 +37,7 @@ ZELSharedText MapCharacters(std::string_view i_text, char i_firstLetter, SystemM
 }
 
 // Characters do not change when another text follows, unless it begins with bytes that complete the last of them.
-bool EndsBefore(std::string_view i_next) noexcept
+bool BeginsCharacter(std::string_view i_next) noexcept
 {
   return (static_cast<unsigned char>(i_next.front()) & 0xC0) != 0x80;
 }
@@ -118,7 +118,7 @@ ZELUnicodeString& ZELUnicodeString::operator+=(const ZELUnicodeString& i_text)
 {
   if (i_text.IsEmpty())
     return *this;
-  const bool isSum = EndsBefore(i_text.GetUTF8());
+  const bool isSum = BeginsCharacter(i_text.GetUTF8());
   const int sum = GetLength() + i_text.GetLength();
   _text.Append(i_text.GetUTF8());
   _text.SetCharacters(isSum ? sum : CountCharacters(GetUTF8()));
