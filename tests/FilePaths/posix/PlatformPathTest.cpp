@@ -1,0 +1,166 @@
+// What holds on Linux only: names of any bytes, a file tree with one root, rights that a process can lack.
+#include "../PathTexts.h"
+#include "ZELProcess.h"
+
+#include <algorithm>
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+typedef std::vector<std::string> Texts;
+
+static Texts List(const ZELSYPFilePath& i_pattern)
+{
+  ZELListValZELSYPFilePath list;
+  i_pattern.ReadDirectory(list);
+  return TextsOf(list);
+}
+
+// What a process without special rights is answered; the superuser may read everything.
+template <class Question>
+static int AskAsNobody(Question i_question)
+{
+  const pid_t child = fork();
+  if (child == 0)
+    _exit(geteuid() == 0 && setuid(65534) != 0 ? 99 : i_question() & 0xFF);
+  int status = 0;
+  waitpid(child, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+TEST(PlatformPath, KeepsANameThatIsNotUTF8ByteForByte)
+{
+  TemporaryTree tree;
+  const std::string name = "bad\xFF\xC3(.txt";
+  tree.AddFile(name, "12345");
+  ZELListValZELSYPFilePath list;
+  In(tree, "*.txt").ReadDirectory(list);
+  ASSERT_EQ(TextsOf(list), Texts{tree.Path(name)});
+  EXPECT_EQ(list[1].IsFile(), 1);
+  EXPECT_EQ(list[1].GetFileSize(), 5);
+  EXPECT_NE(list[1].GetTime(), 0);
+  EXPECT_EQ(TextOf(list[1].basename()), name);
+  EXPECT_EQ(list[1].Delete(), 0);
+  EXPECT_TRUE(fs::is_empty(tree.SystemPath()));
+}
+
+TEST(PlatformPath, TellsNamesWithTrailingDotsAndSpacesApart)
+{
+  TemporaryTree tree;
+  for (const char* name : {"x", "x.", "x..", "x "})
+  {
+    EXPECT_EQ(In(tree, name).IsFile(), 0) << name;
+    tree.AddFile(name);
+    EXPECT_EQ(In(tree, name).IsFile(), 1) << name;
+  }
+  EXPECT_EQ(List(In(tree, "*")).size(), 4u);
+  EXPECT_EQ(List(In(tree, "*.")).size(), 2u);
+}
+
+TEST(PlatformPath, NamesTheOneRootByADriveOrALeadingBackslash)
+{
+  TemporaryTree tree;
+  tree.AddFile("f");
+  const std::string withoutDrive = tree.Path().substr(2);
+  EXPECT_EQ(ZELSYPFilePath((withoutDrive + "\\f").c_str()).IsFile(), 1);
+  EXPECT_EQ(List((withoutDrive + "\\*").c_str()), Texts{withoutDrive + "\\f"});
+  EXPECT_EQ(List("\\"), Texts{"\\"});
+}
+
+TEST(PlatformPath, StartsAtTheRootWithOneBackslashOnly)
+{
+  const Texts found = List("\\*");
+  EXPECT_NE(std::find(found.begin(), found.end(), "\\tmp"), found.end());
+  ASSERT_EQ(chdir("/"), 0);
+  EXPECT_EQ(List("tmp"), Texts{"\\tmp"});
+}
+
+TEST(PlatformPath, ListsAShareBelowTheRoot)
+{
+  TemporaryTree tree;
+  tree.AddFile("f");
+  const std::string share = '\\' + tree.Path().substr(2);
+  EXPECT_EQ(List((share + "\\*").c_str()), Texts{share + "\\f"});
+}
+
+TEST(PlatformPath, MakesATemporaryFileForItsOwnerOnly)
+{
+  ZELSYPFilePath path = ZELSYPFilePath::GetTemporaryFileName();
+  const std::string name = TextOf(path.basename());
+  const std::string prefix = "ZELQM_" + std::to_string(ZELGetProcessId()) + "_";
+  EXPECT_EQ(name.substr(0, prefix.size()), prefix);
+  EXPECT_EQ(name.size(), prefix.size() + 6);
+  EXPECT_EQ(fs::status(fs::temp_directory_path() / name).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_EQ(path.Delete(), 0);
+}
+
+TEST(PlatformPath, AnswersNoSizeAndNoTimeOfAnUnreadableFile)
+{
+  TemporaryTree tree;
+  tree.AddFile("f", "12345");
+  const ZELSYPFilePath path = In(tree, "f");
+  ASSERT_EQ(AskAsNobody([&] { return path.GetFileSize(); }), 5);
+  fs::permissions(tree.SystemPath("f"), fs::perms::none);
+  EXPECT_EQ(AskAsNobody([&] { return path.IsFile(); }), 1);
+  EXPECT_EQ(AskAsNobody([&] { return path.GetFileSize(); }), 0xFF);
+  EXPECT_EQ(AskAsNobody([&] { return path.GetTime(); }), 0);
+  EXPECT_EQ(AskAsNobody([&] { return path.CompareTime(path); }), 1);
+}
+
+TEST(PlatformPath, ListsNothingInAnUnreadableDirectoryAndReturns)
+{
+  TemporaryTree tree;
+  tree.AddFile("open\\f");
+  tree.AddFile("shut\\f");
+  fs::permissions(tree.SystemPath("shut"), fs::perms::none);
+  EXPECT_EQ(AskAsNobody([&] { return List(In(tree, "*\\f")).size() == 1 && List(In(tree, "*\\*")).size() == 1; }), 1);
+  EXPECT_EQ(AskAsNobody([&] { return In(tree, "shut\\new").CreateRecursiveDirectory() == -1; }), 1);
+}
+
+TEST(PlatformPath, PutsBackAWorkingDirectoryThatCannotBeNamed)
+{
+  TemporaryTree tree;
+  tree.AddDirectory("gone");
+  fs::create_directory(tree.SystemPath() / "back\\slash");
+  for (const auto& directory : {fs::path("gone"), fs::path("back\\slash")})
+  {
+    fs::current_path(tree.SystemPath() / directory);
+    struct stat before, after;
+    ASSERT_EQ(stat(".", &before), 0);
+    fs::remove(tree.SystemPath() / "gone");
+    In(tree, "*").GetFullPath();
+    List(In(tree, "*"));
+    ASSERT_EQ(stat(".", &after), 0);
+    EXPECT_EQ(before.st_ino, after.st_ino) << directory;
+  }
+}
+
+TEST(PlatformPath, NamesAWorkingDirectoryThatIsTooLongWithADot)
+{
+  TemporaryTree tree;
+  fs::current_path(tree.SystemPath());
+  const std::string name(200, 'd');
+  for (int level = 0; level < 12; ++level)
+  {
+    ASSERT_TRUE(fs::create_directory(name));
+    ASSERT_EQ(chdir(name.c_str()), 0);
+  }
+  struct stat before, after;
+  ASSERT_EQ(stat(".", &before), 0);
+  EXPECT_EQ(TextOf(ZELSYPFilePath::GetWorkDir()), ".");
+  List(In(tree, "*\\*"));
+  ASSERT_EQ(stat(".", &after), 0);
+  EXPECT_EQ(before.st_ino, after.st_ino);
+}
+
+TEST(PlatformPath, DoesNotWaitForAPipe)
+{
+  TemporaryTree tree;
+  ASSERT_EQ(mkfifo(tree.SystemPath("pipe").c_str(), 0600), 0);
+  EXPECT_EQ(In(tree, "pipe").IsFile(), 1);
+  EXPECT_EQ(In(tree, "pipe").GetFileSize(), 0);
+}

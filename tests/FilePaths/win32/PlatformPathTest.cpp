@@ -1,0 +1,77 @@
+// What holds on Windows only: drives, wide names, names that the system shortens.
+#include "../PathTexts.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+typedef std::vector<std::string> Texts;
+
+static Texts List(const ZELSYPFilePath& i_pattern)
+{
+  ZELListValZELSYPFilePath list;
+  i_pattern.ReadDirectory(list);
+  return TextsOf(list);
+}
+
+// Japanese and a tree, which the ANSI code page of a western system lacks.
+static const char* const Wide = "\xE6\x97\xA5\xE6\x9C\xAC\xF0\x9F\x8C\xB3.txt";
+
+TEST(PlatformPath, FindsAFileByItsWideNameWhereTheNarrowOneFails)
+{
+  TemporaryTree tree;
+  tree.AddFile(Wide);
+  ASSERT_EQ(GetFileAttributesA(In(tree, Wide)), INVALID_FILE_ATTRIBUTES);
+  EXPECT_EQ(In(tree, Wide).IsFile(), 1);
+}
+
+TEST(PlatformPath, FindsADirectoryByItsNarrowNameOnly)
+{
+  TemporaryTree tree;
+  tree.AddDirectory(Wide);
+  EXPECT_EQ(In(tree, Wide).IsFile(), 0);
+  EXPECT_EQ(In(tree, Wide).IsDirectory(), 0);
+  EXPECT_EQ(In(tree, Wide).IsReadOnly(), 0);
+  EXPECT_EQ(List(In(tree, "*")).size(), 1u);
+  EXPECT_EQ(List(In(tree, Wide)).size(), 0u);
+}
+
+TEST(PlatformPath, TakesTrailingDotsAndSpacesOffAsTheSystemDoes)
+{
+  TemporaryTree tree;
+  tree.AddFile("x");
+  for (const char* name : {"x.", "x..", "x "})
+    EXPECT_EQ(In(tree, name).IsFile(), 1) << name;
+  EXPECT_EQ(List(In(tree, "*")), Texts{tree.Path("x")});
+}
+
+TEST(PlatformPath, StartsALeadingBackslashAtTheWorkingDirectory)
+{
+  TemporaryTree tree;
+  tree.AddFile("f");
+  ASSERT_EQ(ZELSYPFilePath::SetWorkDir(In(tree)), 0);
+  EXPECT_EQ(List("\\*"), Texts{tree.Path("f")});
+}
+
+TEST(PlatformPath, ResolvesABareNameAgainstTheDrive)
+{
+  TemporaryTree tree;
+  ASSERT_EQ(ZELSYPFilePath::SetWorkDir(In(tree)), 0);
+  EXPECT_EQ(TextOf(ZELSYPFilePath("f").GetFullPath()), tree.Path().substr(0, 2) + "\\f");
+}
+
+TEST(PlatformPath, MakesATemporaryFileOfTheFirstThreeLettersOfItsPrefix)
+{
+  ZELSYPFilePath path = ZELSYPFilePath::GetTemporaryFileName();
+  EXPECT_EQ(TextOf(path.basename()).substr(0, 3), "ZEL");
+  EXPECT_EQ(TextOf(path.GetExtension().GetText()), "tmp");
+  EXPECT_EQ(path.Delete(), 0);
+}
+
+TEST(PlatformPath, PutsBackAWorkingDirectoryThatTheNarrowViewLacks)
+{
+  TemporaryTree tree;
+  const std::string directory = "\xE6\x97\xA5\xE6\x9C\xAC";
+  std::filesystem::current_path(tree.AddDirectory(directory));
+  List(In(tree, "*"));
+  EXPECT_TRUE(std::filesystem::equivalent(std::filesystem::current_path(), tree.SystemPath(directory)));
+}
