@@ -22,7 +22,10 @@ static Texts Sorted(Texts i_texts)
   return i_texts;
 }
 
-static Texts ListIn(const TemporaryTree& i_tree, const char* i_inside) { return Sorted(List(In(i_tree, i_inside))); }
+static Texts ListIn(const TemporaryTree& i_tree, const char* i_inside)
+{
+  return Sorted(List(In(i_tree, i_inside)));
+}
 
 static Texts PathsIn(const TemporaryTree& i_tree, Texts i_inside)
 {

@@ -9,9 +9,15 @@ struct Matcher : ZELSYPFilePath
   using ZELSYPFilePath::TestMatchNoCase;
 };
 
-static int Match(const char* i_name, const char* i_pattern) { return Matcher().TestMatch(i_name, i_pattern); }
+static int Match(const char* i_name, const char* i_pattern)
+{
+  return Matcher().TestMatch(i_name, i_pattern);
+}
 
-static int MatchNoCase(const char* i_name, const char* i_pattern) { return Matcher().TestMatchNoCase(i_name, i_pattern); }
+static int MatchNoCase(const char* i_name, const char* i_pattern)
+{
+  return Matcher().TestMatchNoCase(i_name, i_pattern);
+}
 
 TEST(WildcardMatch, TakesEveryNameForOneStarAndTheNameItself)
 {

@@ -16,9 +16,15 @@ static const std::uint64_t Second = 10000000;
 static const std::uint64_t Before1970 = 110133216000000000 + 1234567;
 static const std::uint64_t After2038 = 157469184000000000 + 7654321;
 
-static std::string Long() { return std::string(240, 'n'); }
+static std::string Long()
+{
+  return std::string(240, 'n');
+}
 
-static int Low(std::uint64_t i_time) { return static_cast<int>(static_cast<std::uint32_t>(i_time)); }
+static int Low(std::uint64_t i_time)
+{
+  return static_cast<int>(static_cast<std::uint32_t>(i_time));
+}
 
 TEST(ZELSYPFilePathSystem, TellsFilesFromDirectoriesAndFromNothing)
 {
