@@ -67,7 +67,8 @@ std::uint64_t ZELSysFile::GetLastWriteTime() const
   if (fstat(static_cast<int>(_handle), &status) != 0)
     return 0;
   const std::int64_t seconds = status.st_mtim.tv_sec + SecondsBeforeEpoch;
-  return static_cast<std::uint64_t>(seconds * TicksPerSecond + status.st_mtim.tv_nsec / NanosecondsPerTick);
+  // What lies before 1601 has no count: it is the beginning.
+  return seconds < 0 ? 0 : static_cast<std::uint64_t>(seconds * TicksPerSecond + status.st_mtim.tv_nsec / NanosecondsPerTick);
 }
 
 bool ZELSysFile::SetLastWriteTime(std::uint64_t i_time)

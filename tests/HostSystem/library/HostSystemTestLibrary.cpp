@@ -1,0 +1,7 @@
+// What ZELGetFunctionAddress is asked for.
+extern "C" int HostSystemTestAnswer();
+
+int HostSystemTestAnswer()
+{
+  return 42;
+}
