@@ -10,6 +10,7 @@
 
 // Not static: its name must be known to the symbols of every platform.
 __attribute__((noinline)) int PrintMyTrace(int i_maximum, int i_skip);
+static const int lineOfTrace = __LINE__ + 4;
 int PrintMyTrace(int i_maximum, int i_skip)
 {
   ZELStackTrace trace;
@@ -41,7 +42,7 @@ TEST(ZELStackTraceTest, FirstFrameIsTheCallersWithItsFunctionFileAndLine)
   const std::vector<std::string> lines = TraceLines("0", "0");
   ASSERT_FALSE(lines.empty());
   EXPECT_THAT(lines[0], testing::StartsWith(" 0# PrintMyTrace"));
-  EXPECT_THAT(lines[0], testing::HasSubstr("ZELStackTraceTest.cpp:18"));
+  EXPECT_THAT(lines[0], testing::HasSubstr("ZELStackTraceTest.cpp:" + std::to_string(lineOfTrace)));
 }
 
 TEST(ZELStackTraceTest, OutermostFramesLeadToMain)

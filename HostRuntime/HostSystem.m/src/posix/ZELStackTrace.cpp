@@ -14,5 +14,7 @@ std::string ZELBasicStackTrace::Describe(int i_index) const
 {
   if (i_index < 0 || i_index >= GetFrameCount())
     return std::string();
-  return boost::stacktrace::to_string(boost::stacktrace::frame(_frames[static_cast<std::size_t>(i_index)]));
+  // A frame holds the address behind its call, which may be the next line's.
+  const char* call = static_cast<const char*>(_frames[static_cast<std::size_t>(i_index)]) - 1;
+  return boost::stacktrace::to_string(boost::stacktrace::frame(call));
 }
