@@ -9,7 +9,7 @@ import subprocess
 import sys
 
 # Templates of other libraries, instantiated here: the standard library keeps its own visible whatever a user asks for.
-FOREIGN = re.compile(r"_Z(?:GVR?|T[VTIS]|T[hv]\w*?_)?N?[rVK]*[RO]?(?:S[tabsiod]|9__gnu_cxx|8nlohmann|5boost|10__cxxabiv1)")
+FOREIGN = re.compile(r"_Z(?:GVR?|T[VTIS]|T[hv]\w*?_)?Z*N?[rVK]*[RO]?(?:S[tabsiod]|9__gnu_cxx|8nlohmann|5boost|10__cxxabiv1)")
 
 
 def ours(mangled_names):
