@@ -80,15 +80,22 @@ private:
     void** _elements;
     int* _hashes;
     std::size_t _groupMask;
+    // Leaves a product's bits for the group and the tag.
+    int _shift;
     int _capacity;
   };
   static const Group s_noElements;
 
-  // The product's high half depends on every bit of the hash, however little a pointer's hash varies.
-  static std::uint64_t Mix(int i_hash) noexcept { return static_cast<std::uint32_t>(i_hash) * UINT64_C(0x9E3779B97F4A7C15); }
-  static unsigned char TagOf(std::uint64_t i_mixed) noexcept
+  // The home group of a hash, and below it the eight bits of its tag, from the highest bits of a product: addresses at
+  // regular distances spread evenly over the groups, and those that meet in one group have different tags.
+  std::uint64_t Spread(int i_hash) const noexcept
   {
-    const unsigned tag = static_cast<unsigned>(i_mixed >> 56);
+    return static_cast<std::uint32_t>(i_hash) * UINT64_C(0x9E3779B97F4A7C15) >> _block._shift;
+  }
+  static std::size_t HomeOf(std::uint64_t i_spread) noexcept { return i_spread >> 8; }
+  static unsigned char TagOf(std::uint64_t i_spread) noexcept
+  {
+    const unsigned char tag = static_cast<unsigned char>(i_spread);
     return static_cast<unsigned char>(tag + (tag == 0));
   }
   static unsigned Matches(const Group& i_group, unsigned char i_tag) noexcept
@@ -96,7 +103,6 @@ private:
     const __m128i tags = _mm_load_si128(reinterpret_cast<const __m128i*>(&i_group));
     return static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(tags, _mm_set1_epi8(static_cast<char>(i_tag))))) & TagBits;
   }
-  std::size_t HomeOf(std::uint64_t i_mixed) const noexcept { return (i_mixed >> 32) & _block._groupMask; }
   template <class SameSlot>
   std::size_t FindSlot(int i_hash, const SameSlot& i_sameSlot) const;
 
@@ -118,9 +124,9 @@ private:
 template <class SameSlot>
 std::size_t ZELSysSimpleHashTable::FindSlot(int i_hash, const SameSlot& i_sameSlot) const
 {
-  const std::uint64_t mixed = Mix(i_hash);
-  const unsigned char tag = TagOf(mixed);
-  std::size_t group = HomeOf(mixed);
+  const std::uint64_t spread = Spread(i_hash);
+  const unsigned char tag = TagOf(spread);
+  std::size_t group = HomeOf(spread);
   for (std::size_t step = 1;; ++step)
   {
     for (unsigned matches = Matches(_block._groups[group], tag); matches != 0; matches &= matches - 1)

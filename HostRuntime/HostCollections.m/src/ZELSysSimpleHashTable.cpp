@@ -21,6 +21,12 @@ std::size_t GroupsFor(int i_size)
   return groups;
 }
 
+// Of 64 bits: those of a power of two of groups stay, and eight more.
+int ShiftFor(std::size_t i_groupCount)
+{
+  return 64 - 8 - __builtin_ctzll(i_groupCount);
+}
+
 // Cuts the next i_count objects off the front of a block of memory.
 template <class T>
 T* Cut(char*& io_memory, std::size_t i_count)
@@ -35,7 +41,7 @@ alignas(64) const ZELSysSimpleHashTable::Group ZELSysSimpleHashTable::s_noElemen
 
 // The group without elements is looked into, never written: its capacity is 0.
 ZELSysSimpleHashTable::ZELSysSimpleHashTable(int i_size, HashFunction i_hash, CompareFunction i_compare)
-    : _block{const_cast<Group*>(&s_noElements), nullptr, nullptr, nullptr, nullptr, 0, 0},
+    : _block{const_cast<Group*>(&s_noElements), nullptr, nullptr, nullptr, nullptr, 0, ShiftFor(1), 0},
       _size(0),
       _initialSize(i_size),
       _hash(i_hash),
@@ -112,6 +118,7 @@ bool ZELSysSimpleHashTable::Allocate(std::size_t i_groupCount, Block& o_block) n
   o_block._positions = Cut<std::uint32_t>(memory, slots);
   o_block._hashes = Cut<int>(memory, elements);
   o_block._groupMask = i_groupCount - 1;
+  o_block._shift = ShiftFor(i_groupCount);
   o_block._capacity = static_cast<int>(std::min<std::size_t>(elements, INT_MAX));
   std::memset(o_block._groups, 0, i_groupCount * sizeof(Group));
   return true;
@@ -142,8 +149,8 @@ bool ZELSysSimpleHashTable::Grow() noexcept
 // Enters the element that stands at the position into the index. There is room: a group has more slots than its share.
 void ZELSysSimpleHashTable::Place(int i_position) noexcept
 {
-  const std::uint64_t mixed = Mix(_block._hashes[i_position]);
-  std::size_t group = HomeOf(mixed);
+  const std::uint64_t spread = Spread(_block._hashes[i_position]);
+  std::size_t group = HomeOf(spread);
   unsigned freeSlots = Matches(_block._groups[group], 0);
   for (std::size_t step = 1; freeSlots == 0; ++step)
   {
@@ -153,7 +160,7 @@ void ZELSysSimpleHashTable::Place(int i_position) noexcept
     freeSlots = Matches(_block._groups[group], 0);
   }
   const std::size_t index = static_cast<std::size_t>(__builtin_ctz(freeSlots));
-  _block._groups[group]._tags[index] = TagOf(mixed);
+  _block._groups[group]._tags[index] = TagOf(spread);
   _block._slots[group * SlotsPerGroup + index] = _block._elements[i_position];
   _block._positions[group * SlotsPerGroup + index] = static_cast<std::uint32_t>(i_position);
 }
@@ -171,7 +178,7 @@ void* ZELSysSimpleHashTable::TakeOut(std::size_t i_slot) noexcept
 // The element in the slot no longer passed by the groups on its way there.
 void ZELSysSimpleHashTable::ForgetPassing(int i_hash, std::size_t i_slot) noexcept
 {
-  std::size_t group = HomeOf(Mix(i_hash));
+  std::size_t group = HomeOf(Spread(i_hash));
   for (std::size_t step = 1; group != i_slot / SlotsPerGroup; ++step)
   {
     if (_block._groups[group]._passed != UCHAR_MAX)

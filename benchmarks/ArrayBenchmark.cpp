@@ -1,0 +1,98 @@
+// What an append costs when a million elements come one after the other into an empty array, growth included, beside
+// std::vector.
+//
+// The heap is told to keep what is freed: else whichever container has the largest block pays for pages that the heap gave
+// back to the system after its last run (9 ns an element, for the project; the vector's blocks stayed below the limit
+// that the project's had set), and that is not what is asked here.
+//
+// Tried and dropped: a block of default-made elements that appending assigns to and growth copies. It counts every smart
+// pointer twice at each growth; now a block is raw memory, and growth moves.
+#include "ZELSYPArray.h"
+#include "ZELSYPRefCounted.h"
+
+#include <benchmark/benchmark.h>
+
+#include <malloc.h>
+#include <vector>
+
+#if OPX_PEER_BOOST
+#include <boost/smart_ptr/intrusive_ptr.hpp>
+#endif
+
+namespace
+{
+const int Count = 1000000;
+const bool g_heapKeepsMemory = mallopt(M_MMAP_THRESHOLD, 1 << 30) != 0 && mallopt(M_TRIM_THRESHOLD, 1 << 30) != 0;
+
+class Counted : public ZELSYPRefCounted
+{
+};
+
+inline void AppendTo(ZELSYPArray<void*>& io_array, void* i_element)
+{
+  io_array.Append(i_element);
+}
+inline void AppendTo(std::vector<void*>& io_array, void* i_element)
+{
+  io_array.push_back(i_element);
+}
+
+template <class Array>
+void AppendPointers(benchmark::State& io_state)
+{
+  int target = 0;
+  if (!g_heapKeepsMemory)
+    io_state.SkipWithError("the heap gives memory back");
+  for (auto _ : io_state)
+  {
+    Array array;
+    for (int index = 0; index < Count; ++index)
+      AppendTo(array, &target + index % 2);
+    benchmark::DoNotOptimize(array.begin());
+  }
+  io_state.SetItemsProcessed(io_state.iterations() * Count);
+}
+BENCHMARK_TEMPLATE(AppendPointers, ZELSYPArray<void*>)->Name("AppendPointers/Project")->Unit(benchmark::kMicrosecond);
+BENCHMARK_TEMPLATE(AppendPointers, std::vector<void*>)->Name("AppendPointers/std::vector")->Unit(benchmark::kMicrosecond);
+
+#if OPX_PEER_BOOST
+typedef boost::intrusive_ptr<Counted> Handle;
+
+inline void AppendTo(ZELSYPArray<Handle>& io_array, const Handle& i_element)
+{
+  io_array.Append(i_element);
+}
+inline void AppendTo(std::vector<Handle>& io_array, const Handle& i_element)
+{
+  io_array.push_back(i_element);
+}
+
+template <class Array>
+void AppendSmartPointers(benchmark::State& io_state)
+{
+  const Handle handle(new Counted, false);
+  for (auto _ : io_state)
+  {
+    Array array;
+    for (int index = 0; index < Count; ++index)
+      AppendTo(array, handle);
+    benchmark::DoNotOptimize(array.begin());
+  }
+  io_state.SetItemsProcessed(io_state.iterations() * Count);
+}
+BENCHMARK_TEMPLATE(AppendSmartPointers, ZELSYPArray<Handle>)->Name("AppendSmartPointers/Project")->Unit(benchmark::kMicrosecond);
+BENCHMARK_TEMPLATE(AppendSmartPointers, std::vector<Handle>)->Name("AppendSmartPointers/std::vector")->Unit(benchmark::kMicrosecond);
+#endif
+} // namespace
+
+#if OPX_PEER_BOOST
+// What boost's smart pointer calls; it looks in the namespace of the counted class's base.
+inline void intrusive_ptr_add_ref(ZELSYPRefCounted* io_pObject)
+{
+  io_pObject->AddRef();
+}
+inline void intrusive_ptr_release(ZELSYPRefCounted* io_pObject)
+{
+  io_pObject->Release();
+}
+#endif
