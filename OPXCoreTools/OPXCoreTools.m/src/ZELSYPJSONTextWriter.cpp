@@ -1,5 +1,6 @@
 #include "ZELSYPJSONTextWriter.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -36,17 +37,49 @@ bool IsPlain(char i_char)
   return byte >= 0x20 && byte < 0x80 && byte != '"' && byte != '\\';
 }
 
-std::size_t CountPlain(const char* i_pText, std::size_t i_size)
+// Four characters are looked at as eight, of which the others are spaces.
+constexpr std::uint64_t Widen(std::uint64_t i_word)
+{
+  return i_word;
+}
+constexpr std::uint64_t Widen(std::uint32_t i_word)
+{
+  return Repeat(' ') << 32 | i_word;
+}
+
+// Copies a word whose characters are all plain.
+template <typename Word>
+bool CopyPlainWord(const char* i_pText, char* o_pText)
+{
+  Word word;
+  std::memcpy(&word, i_pText, sizeof(word));
+  if (!IsPlain(Widen(word)))
+    return false;
+  std::memcpy(o_pText, &word, sizeof(word));
+  return true;
+}
+
+// Copies the last characters of a text whose others are plain and copied; those are copied once more where that makes a
+// word. Answers false when the end is not plain, or too short.
+bool CopyPlainEnd(const char* i_pText, std::size_t i_size, char* o_pText)
+{
+  constexpr std::size_t half = s_wordSize / 2;
+  if (i_size >= s_wordSize)
+    return CopyPlainWord<std::uint64_t>(i_pText + i_size - s_wordSize, o_pText + i_size - s_wordSize);
+  return i_size >= half && CopyPlainWord<std::uint32_t>(i_pText, o_pText) &&
+         CopyPlainWord<std::uint32_t>(i_pText + i_size - half, o_pText + i_size - half);
+}
+
+// Copies the plain characters that a text begins with, and answers how many they are.
+std::size_t CopyPlain(const char* i_pText, std::size_t i_size, char* o_pText)
 {
   std::size_t count = 0;
-  for (std::uint64_t word; count + s_wordSize <= i_size; count += s_wordSize)
-  {
-    std::memcpy(&word, i_pText + count, s_wordSize);
-    if (!IsPlain(word))
-      break;
-  }
-  while (count < i_size && IsPlain(i_pText[count]))
-    ++count;
+  while (count + s_wordSize <= i_size && CopyPlainWord<std::uint64_t>(i_pText + count, o_pText + count))
+    count += s_wordSize;
+  if (i_size - count < s_wordSize && CopyPlainEnd(i_pText, i_size, o_pText))
+    return i_size;
+  for (; count < i_size && IsPlain(i_pText[count]); ++count)
+    o_pText[count] = i_pText[count];
   return count;
 }
 
@@ -149,14 +182,14 @@ void ZELSYPJSONTextWriter::WriteString(std::string_view i_text)
 {
   Put('"');
   std::size_t position = 0;
-  while (true)
+  while (position < i_text.size())
   {
-    const std::size_t plain = CountPlain(i_text.data() + position, i_text.size() - position);
-    Put(i_text.substr(position, plain));
+    const std::size_t piece = std::min(i_text.size() - position, s_capacity);
+    const std::size_t plain = CopyPlain(i_text.data() + position, piece, Reserve(piece));
+    _size += plain;
     position += plain;
-    if (position == i_text.size())
-      break;
-    position = WriteSpecial(i_text, position);
+    if (plain < piece)
+      position = WriteSpecial(i_text, position);
   }
   Put('"');
 }
