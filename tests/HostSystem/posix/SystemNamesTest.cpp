@@ -1,7 +1,7 @@
 // What holds on Linux alone: its names are bytes, its file tree has one root, its debugger is another process.
+#include "../TestFolder.h"
 #include "ChildProcess.h"
 #include "ChildProgram.h"
-#include "../TestFolder.h"
 #include "ZELProcess.h"
 #include "ZELSysDirectory.h"
 #include "ZELSysFile.h"
