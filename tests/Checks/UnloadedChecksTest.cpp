@@ -1,0 +1,44 @@
+#include "ChildProcess.h"
+
+#include <gmock/gmock.h>
+
+using testing::MatchesRegex;
+
+namespace
+{
+ChildResult CallAfterUnload(const std::string& i_entry)
+{
+  return ChildProcess(ChildProcess::Beside("late_checks"), {i_entry})
+      .Set("ZELDevelopmentStage", "1")
+      .SearchLibrariesIn(ChildProcess::GetProgramFolder())
+      .SearchLibrariesIn(ChildProcess::GetProgramFolder() + "/LateChecks")
+      .Run();
+}
+
+struct Entry
+{
+  const char* name;
+  const char* file;
+};
+class UnloadedChecks : public testing::TestWithParam<Entry>
+{
+};
+} // namespace
+
+TEST_P(UnloadedChecks, PrintThatTheyWereCalledAndDoNothingElse)
+{
+  const ChildResult result = CallAfterUnload(GetParam().name);
+  EXPECT_TRUE(result.Succeeded()) << result;
+  EXPECT_EQ(result.out, "");
+  EXPECT_THAT(result.err, MatchesRegex("\\*\\* INTERNAL ERROR in " + std::string(GetParam().file) +
+                                       "\\.cpp [1-9][0-9]*, called after this linked library has been unloaded\nreturned\n"));
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryEntryPoint, UnloadedChecks,
+                         testing::Values(Entry{"CallCheckFailure", "ZELSYPCheck"}, Entry{"CallCheckTrue", "ZELSYPCheck"},
+                                         Entry{"CallCheckPointer", "ZELSYPCheck"}, Entry{"CallCheckHandler", "ZELSYPCheck"},
+                                         Entry{"CallSetFailureHandler", "ZELSYPCheckFailureHandlerSetter"},
+                                         Entry{"CallSetExpectFailures", "ZELSYPCheckFailureHandlerSetter"},
+                                         Entry{"CallResetExpectFailuresAndCheck", "ZELSYPCheckFailureHandlerSetter"},
+                                         Entry{"CallResetExpectFailuresAndCheckMsg", "ZELSYPCheckFailureHandlerSetter"}),
+                         [](const testing::TestParamInfo<Entry>& i_entry) { return std::string(i_entry.param.name); });
