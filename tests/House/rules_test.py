@@ -13,7 +13,8 @@ class SourceRules(unittest.TestCase):
                          ["tests/A/X.cpp: asks for the operating system outside posix/ and win32/"])
 
     def test_a_platform_file_needs_its_twin(self):
-        sources = {"H/src/posix/A.cpp": "", "H/src/win32/A.cpp": "", "H/src/posix/B.cpp": "", "H/src/win32/C.cpp": ""}
+        sources = {"H/src/posix/A.cpp": "", "H/src/win32/A.cpp": "", "H/src/posix/B.cpp": "", "H/src/win32/C.cpp": "",
+                   "tests/A/posix/OneTest.cpp": ""}
         self.assertEqual(source_rules.missing_twins(sources),
                          ["H/src/posix/B.cpp: has no twin in win32/", "H/src/win32/C.cpp: has no twin in posix/"])
 
