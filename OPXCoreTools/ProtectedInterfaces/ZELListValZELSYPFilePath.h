@@ -33,7 +33,8 @@ public:
   ZELSYPFilePath& operator[](int i_position);
   const ZELSYPFilePath& operator[](int i_position) const;
 
-  // In place. The function answers below, at or above 0 as its first path goes before, with or after its second.
+  // In place. The function answers below, at or above 0 as its first path goes before, with or after its second;
+  // null leaves the order as it is.
   void QuickSort(int (*i_compare)(ZELSYPFilePath*, ZELSYPFilePath*));
 
   // By ZELSYPFilePath::operator==, which ignores letter case, path by path. 1 or 0.

@@ -100,6 +100,13 @@ TEST(ZELListValZELSYPFilePath, SortsWithTheGivenFunction)
   EXPECT_EQ(TextsOf(list), (Texts{"b", "a", "C", "B"}));
 }
 
+TEST(ZELListValZELSYPFilePath, KeepsItsOrderWithoutAFunction)
+{
+  ZELListValZELSYPFilePath list = ListOf({"b", "a"});
+  list.QuickSort(nullptr);
+  EXPECT_EQ(TextsOf(list), (Texts{"b", "a"}));
+}
+
 TEST(ZELListValZELSYPFilePath, EqualsAListOfTheSamePathsInAnotherCase)
 {
   EXPECT_EQ(ListOf({"A\\b", "c"}) == ListOf({"a\\B", "C"}), 1);

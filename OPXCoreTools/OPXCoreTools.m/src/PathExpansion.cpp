@@ -89,13 +89,20 @@ void PathExpansion::Descend(std::string_view i_component)
   _level.swap(_nextLevel);
 }
 
+bool PathExpansion::Accepts(const WildcardPattern& i_upperPattern, std::string_view i_name)
+{
+  if (i_upperPattern.IsEverything())
+    return true;
+  UpperCaseNarrow(i_name, _upperName);
+  return i_upperPattern.Matches(_upperName);
+}
+
 void PathExpansion::AddMatches(const ZELUnicodeString& i_directory, const WildcardPattern& i_upperPattern)
 {
   ZELSysDirectory entries(ZELUnicodeString::Join(i_directory.GetUTF8(), "\\", {}));
   for (std::string_view name; entries.Next(name);)
   {
-    UpperCaseNarrow(name, _upperName);
-    if (i_upperPattern.Matches(_upperName))
+    if (Accepts(i_upperPattern, name))
       _nextLevel.push_back(ZELUnicodeString::Join(i_directory.GetUTF8(), "\\", name));
   }
 }

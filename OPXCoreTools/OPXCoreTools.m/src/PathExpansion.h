@@ -29,6 +29,7 @@ private:
 
   void Descend(std::string_view i_component);
   void AddMatches(const ZELUnicodeString& i_directory, const WildcardPattern& i_upperPattern);
+  bool Accepts(const WildcardPattern& i_upperPattern, std::string_view i_name);
   void AddExisting(const ZELUnicodeString& i_directory, std::string_view i_component);
 
   ZELUnicodeString _path;

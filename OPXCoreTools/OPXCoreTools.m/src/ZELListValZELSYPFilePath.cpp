@@ -34,8 +34,12 @@ void ZELListValZELSYPFilePath::Append(const ZELSYPFilePath& i_path)
 
 void ZELListValZELSYPFilePath::RemovePosition(int i_position)
 {
-  delete At(i_position);
+  // Null for a position that does not exist, which the collection has reported by then.
+  ZELSYPFilePath* const pPath = At(i_position);
+  if (!pPath)
+    return;
   _paths.RemovePosition(i_position);
+  delete pPath;
 }
 
 void ZELListValZELSYPFilePath::RemoveAll(MemoryHandling i_memory)
@@ -65,6 +69,8 @@ const ZELSYPFilePath& ZELListValZELSYPFilePath::operator[](int i_position) const
 
 void ZELListValZELSYPFilePath::QuickSort(int (*i_compare)(ZELSYPFilePath*, ZELSYPFilePath*))
 {
+  if (!i_compare)
+    return;
   _paths.QuickSort(
       [](void* i_left, void* i_right, void* i_pCompare)
       {
