@@ -23,7 +23,7 @@ public:
 
   // True once every element that was there at the start was walked, or without a table. A position below 0:
   // "_currentItem >= 0", and true.
-  bool IsDone() const;
+  bool IsDone() const { return !_pHashTable || !ZELSYP_CHECK_TRUE(_currentItem >= 0) || _currentItem >= _size; }
 
   // The element at the current position, and the step to the next one. Each checks, in this order, that there is a
   // table ("_pHashTable"), that it has as many elements as at the start ("_pHashTable->Size() == _size", with "Hash table
@@ -42,18 +42,11 @@ protected:
   std::int32_t _currentItem;
 
 private:
-  bool HasCurrentItem() const;
+  bool HasCurrentItem() const
+  {
+    return ZELSYP_CHECK_POINTER(_pHashTable) && ZELSYP_CHECK_TRUE_DETAILS(_pHashTable->Size() == _size, "Hash table size has changed!") &&
+           ZELSYP_CHECK_TRUE(_currentItem >= 0 && _currentItem <= _size - 1);
+  }
 };
-
-inline bool ZELSYPHashMapBaseIterator::IsDone() const
-{
-  return !_pHashTable || !ZELSYP_CHECK_TRUE(_currentItem >= 0) || _currentItem >= _size;
-}
-
-inline bool ZELSYPHashMapBaseIterator::HasCurrentItem() const
-{
-  return ZELSYP_CHECK_POINTER(_pHashTable) && ZELSYP_CHECK_TRUE_DETAILS(_pHashTable->Size() == _size, "Hash table size has changed!") &&
-         ZELSYP_CHECK_TRUE(_currentItem >= 0 && _currentItem <= _size - 1);
-}
 
 #endif
