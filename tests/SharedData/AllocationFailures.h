@@ -3,7 +3,7 @@
 //
 // It replaces the global operators of the test program. Headers compiled into the program obey it everywhere; libraries
 // do where the system resolves their operators in the program first (Linux), and not where each library brings its own
-// (Windows). One thread at a time.
+// (Windows). A sanitizer's runtime keeps its own operators. One thread at a time.
 #ifndef AllocationFailures_H
 #define AllocationFailures_H
 
@@ -15,6 +15,8 @@ public:
   AllocationFailures(const AllocationFailures&) = delete;
   AllocationFailures& operator=(const AllocationFailures&) = delete;
 
+  // Whether this program's headers obey at all.
+  static bool AreObeyed();
   static bool IsRefusing() noexcept { return s_refusing; }
   // How often memory was asked for in this way since the program started, refused or not.
   static int GetRequestCount() noexcept { return s_requests; }
