@@ -1,0 +1,40 @@
+// A reader that goes away, made with a shell.
+#include "ChildProcess.h"
+#include "TemporaryTree.h"
+
+#include <gmock/gmock.h>
+
+namespace
+{
+ChildResult RunShell(const std::string& i_script, const TemporaryTree& i_tree)
+{
+  return ChildProcess("/bin/bash", {"-c", i_script, "bash", ChildProcess::Beside("opx-explorer"), i_tree.SystemPath().string()}).Run();
+}
+} // namespace
+
+TEST(OPXExplorerPipeTest, AReaderThatGoesAwayEndsItQuietlyWithSuccess)
+{
+  TemporaryTree tree;
+  const ChildResult result =
+      RunShell("{ yes noise | \"$1\" --stdio \"$2\"; echo \"code ${PIPESTATUS[1]}\" >&2; } | head -n 1 >/dev/null", tree);
+  EXPECT_EQ(result.err, "code 0\n");
+}
+
+TEST(OPXExplorerPipeTest, APersonMayStopReading)
+{
+  TemporaryTree tree;
+  for (int i = 0; i < 10; ++i)
+    tree.AddFile("directory" + std::to_string(i) + "\\file");
+  const ChildResult result = RunShell("{ \"$1\" \"$2\"; echo \"code $?\" >&2; } | true", tree);
+  EXPECT_EQ(result.err, "code 0\n");
+}
+
+TEST(OPXExplorerPipeTest, EachAnswerIsSentBeforeTheNextMessageIsRead)
+{
+  TemporaryTree tree;
+  const ChildResult result =
+      RunShell("coproc \"$1\" --stdio \"$2\"; echo noise >&\"${COPROC[1]}\"; read -t 20 -r line <&\"${COPROC[0]}\" && "
+               "echo \"${line:0:33}\"",
+               tree);
+  EXPECT_EQ(result.out, "{\"jsonrpc\":\"2.0\",\"id\":null,\"error\n");
+}
