@@ -1,5 +1,6 @@
 #include "ChildProcess.h"
 #include "ChildProgram.h"
+#include "ReportText.h"
 #include "ZELSYPCheck.h"
 #include "ZELSYPCheckFailureHandlerSetter.h"
 
@@ -7,11 +8,6 @@
 
 #include <cstdio>
 #include <cstdlib>
-
-using testing::AllOf;
-using testing::HasSubstr;
-using testing::MatchesRegex;
-using testing::StartsWith;
 
 namespace
 {
@@ -41,11 +37,10 @@ ChildProcess WithoutPanel(const std::string& i_entry)
   return ChildProcess::Self(i_entry).Set("ZELDevelopmentStage", "1");
 }
 
-// What a failure prints that ends the process, with i_between before the call stack.
-testing::Matcher<const std::string&> IsEnd(const std::string& i_failure, const std::string& i_between = "")
+// What a failure prints that ends the process, after i_before.
+std::string EndAfter(const std::string& i_before)
 {
-  return AllOf(StartsWith(i_failure + i_between + StackHeading), testing::EndsWith(Terminating),
-               MatchesRegex("[^#]*call stack:\n *0# [^\n]+\n[^$]*"));
+  return i_before + StackHeading + "FRAMES\n" + Terminating;
 }
 } // namespace
 
@@ -119,14 +114,14 @@ TEST(ZELSYPDefaultCheckFailureHandler, PrintsTheFailureAndTheStackAndEndsTheProc
   const ChildResult result = WithoutPanel("FailOneCheck").Run();
   EXPECT_FALSE(result.ended) << result;
   EXPECT_EQ(result.out, "");
-  EXPECT_THAT(result.err, IsEnd("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n"));
+  EXPECT_EQ(ReportText::Of(result.err), EndAfter("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n"));
 }
 
 TEST(ZELSYPDefaultCheckFailureHandler, PrintsDetailsOnALineOfTheirOwn)
 {
   const ChildResult result = WithoutPanel("FailOneCheckWithDetails").Run();
   EXPECT_FALSE(result.ended) << result;
-  EXPECT_THAT(result.err, IsEnd("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n           some details\n"));
+  EXPECT_EQ(ReportText::Of(result.err), EndAfter("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n           some details\n"));
 }
 
 TEST(ZELSYPDefaultCheckFailureHandler, FlushesTheOutputBeforeItsReport)
@@ -151,16 +146,15 @@ TEST(ZELSYPDefaultCheckFailureHandler, EndsTheProcessWhenTheUserStops)
 {
   const ChildResult result = WithPanel("FailOneCheck", 0).Run();
   EXPECT_FALSE(result.ended) << result;
-  EXPECT_THAT(result.err, IsEnd("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n"));
+  EXPECT_EQ(ReportText::Of(result.err), EndAfter("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n"));
 }
 
 TEST(ZELSYPDefaultCheckFailureHandler, PrintsAnUnknownAnswerAndEndsTheProcess)
 {
   const ChildResult result = WithPanel("FailOneCheck", 7).Run();
   EXPECT_FALSE(result.ended) << result;
-  EXPECT_THAT(result.err, MatchesRegex("\n\\*\\* FAILURE Some\\.cpp:12: pointer i_p is NULL\n"
-                                       "Internal error in ZELSYPDefaultCheckFailureHandler\\.cpp [1-9][0-9]*, invalid value 7!\n" +
-                                       StackHeading + "[^$]*" + Terminating));
+  EXPECT_EQ(ReportText::Of(result.err), EndAfter("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n"
+                                                 "Internal error in ZELSYPDefaultCheckFailureHandler.cpp LINE, invalid value 7!\n"));
 }
 
 TEST(ZELSYPDefaultCheckFailureHandler, HidesOneFileAndLineWhateverTheMessage)
@@ -189,18 +183,18 @@ TEST(ZELSYPDefaultCheckFailureHandler, TakesANullFileAsAnEmptyOneAndPrintsThatTw
 {
   const ChildResult result = WithoutPanel("FailWithoutTexts").Run();
   EXPECT_FALSE(result.ended) << result;
-  EXPECT_THAT(result.err, MatchesRegex("Internal error in ZELSYPCheckKey\\.cpp [1-9][0-9]*, NULL value!\n"
-                                       "Internal error in ZELSYPCheckKey\\.cpp [1-9][0-9]*, NULL value!\n"
-                                       "\n\\*\\* FAILURE :12: \n" +
-                                       StackHeading + "[^$]*"));
+  EXPECT_EQ(ReportText::Of(result.err), EndAfter("Internal error in ZELSYPCheckKey.cpp LINE, NULL value!\n"
+                                                 "Internal error in ZELSYPCheckKey.cpp LINE, NULL value!\n"
+                                                 "\n** FAILURE :12: \n"));
 }
 
 TEST(ZELSYPDefaultCheckFailureHandler, ReportsAFailureOfThePanelsLibraryWithoutThePanel)
 {
   const ChildResult result = WithPanel("FailOneCheck", 1).Set("FailurePanelFailsAtLoad", "1").Run();
   EXPECT_FALSE(result.ended) << result;
-  EXPECT_THAT(result.err, IsEnd("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n",
-                                "\n** FAILURE FailurePanel.cpp:5: boolean !std::getenv(\"FailurePanelFailsAtLoad\") is FALSE\n"));
+  EXPECT_EQ(ReportText::Of(result.err),
+            EndAfter("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n"
+                     "\n** FAILURE FailurePanel.cpp:5: boolean !std::getenv(\"FailurePanelFailsAtLoad\") is FALSE\n"));
 }
 
 TEST(ZELSYPDefaultCheckFailureHandler, IsMadeByTheEndOfAnExpectationThatNobodyTakes)
@@ -216,5 +210,5 @@ TEST(ZELSYPDefaultCheckFailureHandler, EndsACoverageRunToo)
 {
   const ChildResult result = WithoutPanel("FailOneCheck").Set("debuggerMode", "QMCov").Run();
   EXPECT_FALSE(result.ended) << result;
-  EXPECT_THAT(result.err, IsEnd("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n"));
+  EXPECT_EQ(ReportText::Of(result.err), EndAfter("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n"));
 }
