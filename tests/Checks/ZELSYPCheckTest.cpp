@@ -68,8 +68,8 @@ TEST(ZELSYPCheck, DetailsAndGivenLinesArePassedOn)
   const int* i_p = nullptr;
   const bool ready = false;
   const int line = __LINE__ + 1;
-  (void)(ZELSYP_CHECK_TRUE_DETAILS(ready, "a"), ZELSYP_CHECK_POINTER_DETAILS(i_p, "b"), ZELSYP_CHECK_HANDLER_DETAILS(i_p, "c"));
-  (void)(ZELSYP_CHECK_TRUE_AT(ready, 12), ZELSYP_CHECK_POINTER_AT(i_p, 34), ZELSYP_CHECK_HANDLER_AT(i_p, 56));
+  EXPECT_FALSE(ZELSYP_CHECK_TRUE_DETAILS(ready, "a") || ZELSYP_CHECK_POINTER_DETAILS(i_p, "b") || ZELSYP_CHECK_HANDLER_DETAILS(i_p, "c"));
+  EXPECT_FALSE(ZELSYP_CHECK_TRUE_AT(ready, 12) || ZELSYP_CHECK_POINTER_AT(i_p, 34) || ZELSYP_CHECK_HANDLER_AT(i_p, 56));
 
   const char* file = "ZELSYPCheckTest.cpp";
   EXPECT_THAT(failures.GetFailures(),
