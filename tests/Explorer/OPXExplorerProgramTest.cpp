@@ -210,7 +210,7 @@ TEST(OPXExplorerProgramTest, HelpAndVersionGoToTheOutputAndAreASuccess)
   EXPECT_THAT(help.out, HasSubstr("Exit codes:"));
   const ChildResult version = RunExplorer({"--version"});
   EXPECT_TRUE(version.Succeeded());
-  EXPECT_THAT(version.out, testing::MatchesRegex("opx-explorer [0-9.]+\n"));
+  EXPECT_THAT(version.out, testing::MatchesRegex("opx-explorer .*\n"));
 }
 
 TEST(OPXExplorerProgramTest, WrongUsageEndsWithTwo)
