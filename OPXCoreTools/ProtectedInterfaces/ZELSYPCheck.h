@@ -9,15 +9,20 @@
 
 #include "OPXCoreToolsExport.h"
 
-// The targets of the macros. Any thread. They return nothing and never throw. i_details may be null.
+// The targets of the macros. Any thread. They return nothing and never throw. i_details may be null. Marked as cold, so
+// that compilers move the report out of the way of a check that holds.
 // Reports i_message as it is.
-OPXCORETOOLS_EXPORT void CheckFailure__(const char* i_message, const char* i_file, int i_line, const char* i_details) noexcept;
+[[gnu::cold]] OPXCORETOOLS_EXPORT void CheckFailure__(const char* i_message, const char* i_file, int i_line,
+                                                      const char* i_details) noexcept;
 // Reports "boolean %s is FALSE".
-OPXCORETOOLS_EXPORT void Check_TRUE_Failed__(const char* i_expression, const char* i_file, int i_line, const char* i_details) noexcept;
+[[gnu::cold]] OPXCORETOOLS_EXPORT void Check_TRUE_Failed__(const char* i_expression, const char* i_file, int i_line,
+                                                           const char* i_details) noexcept;
 // Reports "pointer %s is NULL".
-OPXCORETOOLS_EXPORT void Check_Pointer_Failed__(const char* i_expression, const char* i_file, int i_line, const char* i_details) noexcept;
+[[gnu::cold]] OPXCORETOOLS_EXPORT void Check_Pointer_Failed__(const char* i_expression, const char* i_file, int i_line,
+                                                              const char* i_details) noexcept;
 // Reports "handler %s is NULL_var".
-OPXCORETOOLS_EXPORT void Check_Handler_Failed__(const char* i_expression, const char* i_file, int i_line, const char* i_details) noexcept;
+[[gnu::cold]] OPXCORETOOLS_EXPORT void Check_Handler_Failed__(const char* i_expression, const char* i_file, int i_line,
+                                                              const char* i_details) noexcept;
 
 #define ZELSYP_CHECK_REPORT(holds, report, text, line, details)                                                                            \
   (__builtin_expect(static_cast<bool>(holds), true) || (report(text, __FILE_NAME__, line, details), false))
