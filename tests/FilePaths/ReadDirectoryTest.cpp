@@ -112,6 +112,12 @@ TEST(ReadDirectory, AnswersADriveAloneWithoutLookingForIt)
   EXPECT_EQ(List("Q:\\"), Texts{"Q:"});
 }
 
+TEST(ReadDirectory, TakesADriveWithoutABackslashForARelativeName)
+{
+  EXPECT_EQ(List("C:"), Texts());
+  EXPECT_EQ(List("Q:"), Texts());
+}
+
 TEST(ReadDirectory, AnswersAShareAloneWithoutLookingForIt)
 {
   EXPECT_EQ(List("\\\\server\\share"), Texts{"\\\\server\\share"});

@@ -333,6 +333,16 @@ TEST(ZELSYPFilePathSystem, GetFullPathOfAMissingDirectoryIsTheNameInTheWorkingDi
   EXPECT_EQ(TextOf(ZELSYPFilePath("none\\f").GetFullPath()), TextOf(ZELSYPFilePath::GetWorkDir()) + "\\f");
 }
 
+TEST(ZELSYPFilePathSystem, GetFullPathFindsADirectoryThatTheRootLacksInTheWorkingDirectory)
+{
+  TemporaryTree tree;
+  tree.AddDirectory("not-at-the-root\\b");
+  ASSERT_EQ(ZELSYPFilePath::SetWorkDir(In(tree)), 0);
+  const std::string here = TextOf(ZELSYPFilePath::GetWorkDir());
+  EXPECT_EQ(TextOf(ZELSYPFilePath("\\not-at-the-root\\f").GetFullPath()), here + "\\not-at-the-root\\f");
+  EXPECT_EQ(TextOf(ZELSYPFilePath("\\not-at-the-root\\b\\f").GetFullPath()), here + "\\not-at-the-root\\b\\f");
+}
+
 TEST(ZELSYPFilePathSystem, GetFullPathPutsTheWorkingDirectoryBack)
 {
   TemporaryTree tree;

@@ -110,3 +110,15 @@ TEST_F(ZELSYPHashMapBaseIteratorTest, PositionBelowZeroIsReportedAndDone)
   EXPECT_TRUE(it.IsDone());
   EXPECT_THAT(_failures.GetMessages(), ElementsAre("boolean _currentItem >= 0 is FALSE"));
 }
+
+TEST_F(ZELSYPHashMapBaseIteratorTest, TableThatGrewIsReportedBeforeThePosition)
+{
+  Walk it(&_table);
+  _table.Insert(&_numbers[2]);
+  it.StandAt(-1);
+  EXPECT_EQ(nullptr, it.InternalCurrentItem());
+  it.Next();
+  EXPECT_EQ(-1, it.GetPosition());
+  EXPECT_THAT(_failures.GetMessages(),
+              ElementsAre("boolean _pHashTable->Size() == _size is FALSE", "boolean _pHashTable->Size() == _size is FALSE"));
+}

@@ -113,3 +113,19 @@ TEST(ZELSYPImplicitSharedDataTest, CopyConstructionAndAssignmentTakeTheReference
   EXPECT_EQ(3, assigned.GetReferenceCount());
   EXPECT_THAT(failures.GetMessages(), IsEmpty());
 }
+
+TEST(ZELSYPImplicitSharedDataTest, ReportsNameTheSourceOfThePayload)
+{
+  RecordingFailureHandler failures;
+  Payload payload(1);
+  payload.SetReferenceCount(0);
+  payload.Detach();
+  payload.CloneIfShared();
+  ASSERT_EQ(2u, failures.GetFailures().size());
+  for (const RecordingFailureHandler::Failure& failure : failures.GetFailures())
+  {
+    EXPECT_EQ("ZELSYPImplicitSharedData.cpp", failure.file);
+    EXPECT_GT(failure.line, 0);
+    EXPECT_EQ(std::nullopt, failure.details);
+  }
+}

@@ -139,22 +139,60 @@ TEST(PlatformPath, PutsBackAWorkingDirectoryThatCannotBeNamed)
   }
 }
 
-TEST(PlatformPath, NamesAWorkingDirectoryThatIsTooLongWithADot)
+// Goes down from the tree by i_levels directories with names of 200 letters.
+static void GoDown(const TemporaryTree& i_tree, int i_levels)
 {
-  TemporaryTree tree;
-  fs::current_path(tree.SystemPath());
+  fs::current_path(i_tree.SystemPath());
   const std::string name(200, 'd');
-  for (int level = 0; level < 12; ++level)
+  for (int level = 0; level < i_levels; ++level)
   {
     ASSERT_TRUE(fs::create_directory(name));
     ASSERT_EQ(chdir(name.c_str()), 0);
   }
+}
+
+TEST(PlatformPath, NamesAWorkingDirectoryThatIsTooLongWithADot)
+{
+  TemporaryTree tree;
+  ASSERT_NO_FATAL_FAILURE(GoDown(tree, 12));
   struct stat before, after;
   ASSERT_EQ(stat(".", &before), 0);
   EXPECT_EQ(TextOf(ZELSYPFilePath::GetWorkDir()), ".");
   List(In(tree, "*\\*"));
   ASSERT_EQ(stat(".", &after), 0);
   EXPECT_EQ(before.st_ino, after.st_ino);
+}
+
+// The last one, with its end, fills the room of 2,048 bytes.
+TEST(PlatformPath, NamesAWorkingDirectoryOfUpTo2047BytesInFull)
+{
+  TemporaryTree tree;
+  ASSERT_NO_FATAL_FAILURE(GoDown(tree, 9));
+  const std::string last(2047 - fs::current_path().native().size() - 1, 'e');
+  ASSERT_TRUE(fs::create_directory(last) && fs::create_directory(last + 'e'));
+  for (const auto& directory : {fs::current_path(), fs::current_path() / last})
+  {
+    ASSERT_EQ(chdir(directory.c_str()), 0);
+    std::string here = directory.native();
+    std::replace(here.begin(), here.end(), '/', '\\');
+    EXPECT_EQ(TextOf(ZELSYPFilePath::GetWorkDir()), here);
+    EXPECT_EQ(TextOf(ZELSYPFilePath(".\\f").GetFullPath()), here + "\\f");
+  }
+  ASSERT_EQ(chdir(("../" + last + 'e').c_str()), 0);
+  EXPECT_EQ(TextOf(ZELSYPFilePath::GetWorkDir()), ".");
+  EXPECT_EQ(TextOf(ZELSYPFilePath(".\\f").GetFullPath()), "\\f");
+}
+
+// A start that cannot be named is ".", which follows the change to each component.
+TEST(PlatformPath, ChangesToEachComponentOnItsWay)
+{
+  TemporaryTree tree;
+  ASSERT_NO_FATAL_FAILURE(GoDown(tree, 12));
+  ASSERT_TRUE(fs::create_directory("sub"));
+  EXPECT_EQ(List("*"), Texts{".\\sub"});
+  EXPECT_EQ(List("sub"), Texts());
+  ASSERT_TRUE(fs::create_directory("sub/sub"));
+  EXPECT_EQ(List("sub"), Texts{".\\sub"});
 }
 
 TEST(PlatformPath, DoesNotWaitForAPipe)
