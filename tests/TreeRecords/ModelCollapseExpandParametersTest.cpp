@@ -63,3 +63,10 @@ TEST(ModelCollapseExpandParametersTest, LetsTypeErrorsOutOfItsConstructor)
   EXPECT_EQ(TypeErrorOf([] { Parsed(R"({"nodesToExpand":[["a",5]]})"); }), WrongType("string", "number"));
   EXPECT_EQ(TypeErrorOf([] { Parsed(R"({"nodesToCollapse":[[null]]})"); }), WrongType("string", "null"));
 }
+
+TEST(ModelCollapseExpandParametersTest, ReadsTheNodesToCollapseFirst)
+{
+  RecordingFailureHandler failures;
+  Parsed(R"({"nodesToCollapse":"x","nodesToExpand":["a"]})");
+  EXPECT_THAT(failures.GetFailures(), ElementsAre(Failed("This is not an array", 548), Failed("This is not an array", 540)));
+}

@@ -121,3 +121,19 @@ TEST(PointerEventParametersTest, LetsTypeErrorsOutOfItsConstructor)
   EXPECT_EQ(TypeErrorWith("hitCount", json::object()), WrongType("number", "object"));
   EXPECT_EQ(TypeErrorWith("dataIndex", false), WrongType("string", "boolean"));
 }
+
+// Each key is broken in a way of its own; the error tells which was read first, and the next round leaves that one out.
+TEST(PointerEventParametersTest, ReadsItsMembersInOneOrder)
+{
+  json message = json::parse(R"({"idsPath":[{}],"type":1,"pointerType":null,"modifiers":"7","button":[],"hitCount":{},"dataIndex":true})");
+  const std::pair<const char*, std::string> order[] = {
+      {"idsPath", WrongType("string", "object")},   {"type", WrongType("string", "number")},  {"pointerType", WrongType("string", "null")},
+      {"modifiers", WrongType("number", "string")}, {"button", WrongType("number", "array")}, {"hitCount", WrongType("number", "object")},
+      {"dataIndex", WrongType("string", "boolean")}};
+  for (const auto& [key, error] : order)
+  {
+    EXPECT_EQ(TypeErrorOf([&message] { PointerEventParameters event(message); }), error);
+    message.erase(key);
+    message.emplace("idsPath", json::array());
+  }
+}

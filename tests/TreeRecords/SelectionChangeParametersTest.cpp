@@ -116,3 +116,8 @@ TEST(SelectionChangeParametersTest, SizesAreFlags)
   EXPECT_EQ(change.GetRemovedNodesSize(), 0);
   EXPECT_EQ(Parsed(R"({"removedNodes":[[1],[2],[3]]})").GetRemovedNodesSize(), 1);
 }
+
+TEST(SelectionChangeParametersTest, ReadsTheRemovedNodesFirst)
+{
+  EXPECT_EQ(TypeErrorOf([] { Parsed(R"({"addedNodes":[true],"removedNodes":[null]})"); }), WrongType("string", "null"));
+}

@@ -73,6 +73,17 @@ TEST(TreeNodesAnswerParametersTest, MarksARequestAsNotFoundAndBack)
   EXPECT_FALSE(answer.GetNodeAsNotFound(1));
 }
 
+TEST(TreeNodesAnswerParametersTest, EachListOfNodesHasItsNotFoundMark)
+{
+  RecordingFailureHandler failures;
+  TreeNodesAnswerParameters fewTotals({{}, {}}, {1});
+  fewTotals.SetNodeAsNotFound(true, 1);
+  EXPECT_TRUE(fewTotals.GetNodeAsNotFound(1));
+  TreeNodesAnswerParameters manyTotals({{}}, {1, 1});
+  manyTotals.SetNodeAsNotFound(true, 1);
+  EXPECT_FALSE(manyTotals.GetNodeAsNotFound(1));
+}
+
 TEST(TreeNodesAnswerParametersTest, SaysWhetherAllChildrenWereReturned)
 {
   const json answer = json::parse(TextOf({{Nodes(2), Nodes(100), {}, {}}, {2, 250, 0, 5}}))["groupedRequestResult"];
@@ -81,6 +92,11 @@ TEST(TreeNodesAnswerParametersTest, SaysWhetherAllChildrenWereReturned)
   EXPECT_EQ(answer["rows"].size(), 4u);
   EXPECT_EQ(answer["rows"][0].size(), 2u);
   EXPECT_EQ(answer["rows"][1].size(), 100u);
+}
+
+TEST(TreeNodesAnswerParametersTest, MoreNodesThanTheTotalAreNotAllChildren)
+{
+  EXPECT_THAT(TextOf({{Nodes(3)}, {2}}), testing::StartsWith(R"({"groupedRequestResult":{"lastRow":[-1],"numberOfChildren":[2],)"));
 }
 
 TEST(TreeNodesAnswerParametersTest, ARowHoldsThePropertiesAndWhetherThereAreChildren)

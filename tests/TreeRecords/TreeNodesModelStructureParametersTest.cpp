@@ -53,3 +53,18 @@ TEST(TreeNodesModelStructureParametersTest, LetsTypeErrorsOutOfItsConstructor)
   EXPECT_EQ(errorOf({{"groupKeys", {"a", 5}}}), WrongType("string", "number"));
   EXPECT_EQ(errorOf({{"expandNLevels", "3"}}), WrongType("number", "string"));
 }
+
+TEST(TreeNodesModelStructureParametersTest, ReadsTheSortModelBeforeTheLevels)
+{
+  const json message = json::parse(R"({"sortModel":[{"dataIndex":5}],"expandNLevels":"x"})");
+  std::string error;
+  const auto read = [&] { error = TypeErrorOf([&message] { TreeNodesModelStructureParameters structure(message); }); };
+  EXPECT_EQ(StandardErrorOf(read), "Error in SortAttributeModel(const nlohmann::json &i_json) : invalid JSON parameter\n");
+  EXPECT_EQ(error, WrongType("number", "string"));
+}
+
+TEST(TreeNodesModelStructureParametersTest, ReadsTheGroupKeysBeforeTheSortModel)
+{
+  const json message = json::parse(R"({"groupKeys":[1],"sortModel":[{"dataIndex":5}]})");
+  EXPECT_EQ(StandardErrorOf([&] { TypeErrorOf([&message] { TreeNodesModelStructureParameters structure(message); }); }), "");
+}
