@@ -1,4 +1,4 @@
-// faulty_host CASE [ARGUMENT]: fails checks in a program that stands in for the parts of the host, of the C library and of
+// faulty_host CASE ARGUMENT: fails checks in a program that stands in for the parts of the host, of the C library and of
 // the debugger services that the checks call, so that one of them can be out of order.
 //
 // A library's calls reach a function of the same name in the program only where the loader looks names up in the program
@@ -25,7 +25,7 @@ bool textsAreFormatted = true;
 bool eventsAreMade = true;
 bool tablesPassNullKeys = false;
 bool tablesPrintHashes = false;
-// No value below 0 means an answer: there is no panel.
+// Below 0: there is no panel.
 int panelAnswer = -1;
 
 int AnswerAsThePanel(const char*, const char*, int, const char*)
