@@ -75,3 +75,27 @@ TEST(PlatformPath, PutsBackAWorkingDirectoryThatTheNarrowViewLacks)
   List(In(tree, "*"));
   EXPECT_TRUE(std::filesystem::equivalent(std::filesystem::current_path(), tree.SystemPath(directory)));
 }
+
+// With its end, the name fills the room of 1,024 characters.
+TEST(PlatformPath, TriesAWideNameOfUpTo1023Characters)
+{
+  TemporaryTree tree;
+  std::wstring folder = L"\\\\?\\" + tree.SystemPath().make_preferred().wstring();
+  std::vector<std::wstring> folders;
+  while (folder.size() < 820)
+  {
+    folders.push_back(folder += L'\\' + std::wstring(100, L'd'));
+    ASSERT_TRUE(CreateDirectoryW(folder.c_str(), nullptr));
+  }
+  for (const std::size_t size : {1023u, 1024u})
+  {
+    const std::wstring name = folder + L"\\\x65E5" + std::wstring(size - folder.size() - 2, L'f');
+    const HANDLE file = CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr);
+    EXPECT_NE(file, INVALID_HANDLE_VALUE) << size;
+    CloseHandle(file);
+    EXPECT_EQ(ZELSYPFilePath(ZELUnicodeString::FromUTF8(std::filesystem::path(name).u8string())).IsFile(), size == 1023) << size;
+    EXPECT_TRUE(DeleteFileW(name.c_str())) << size;
+  }
+  for (; !folders.empty(); folders.pop_back())
+    EXPECT_TRUE(RemoveDirectoryW(folders.back().c_str()));
+}
