@@ -20,7 +20,7 @@ class OPXTREEBRIDGE_EXPORT OPXTreeSession
 {
 public:
   // In bytes.
-  static constexpr std::size_t MaxMessageSize = 16u * 1024u * 1024u;
+  static constexpr std::size_t MaxMessageSize = std::size_t{16} << 20;
   // In levels of arrays and objects, the message's own and a batch's included.
   static constexpr int MaxNesting = 256;
 

@@ -12,8 +12,11 @@ FORMS = {"TRUE": "boolean {} is FALSE", "True": "boolean {} is FALSE", "POINTER"
          "HANDLER": "handler {} is NULL_var", "Handler": "handler {} is NULL_var"}
 LITERALS = r'(?:"(?:[^"\\\n]|\\.)*"\s*)+'
 MACRO = re.compile(r"\bZELSYP_CHECK_(TRUE|POINTER|HANDLER)(?:_DETAILS|_AT)?\s*\(")
-CALL = re.compile(r"\bCheck_(TRUE|Pointer|Handler)_Failed__\s*\(\s*(" + LITERALS + ")")
-MESSAGE = re.compile(r"\bCheckFailure__\s*\(\s*(" + LITERALS + ")")
+CALL = re.compile(r"\bCheck_(TRUE|Pointer|Handler)_Failed__\s*[(,]\s*(" + LITERALS + ")")
+MESSAGE = re.compile(r"\b(?:CheckFailure__|HandleFailure)\s*\(\s*(" + LITERALS + ")")
+# A line for the standard error stream: its values differ from run to run, the words between them do not.
+PRINTED = re.compile(r"\bf(?:printf|puts)\s*\([^\"]*?(" + LITERALS + ")")
+WORDS = re.compile(r"[^%\n]{8,}")
 ESCAPES = {"n": "\n", "t": "\t", "\\": "\\", '"': '"', "0": "\0"}
 
 
@@ -50,6 +53,8 @@ def check_texts(source):
     expressions = [(match.group(1), first_argument(source, match.end())) for match in MACRO.finditer(source)]
     expressions += [(match.group(1), value(match.group(2))) for match in CALL.finditer(source)]
     messages = [value(match.group(1)) for match in MESSAGE.finditer(source)]
+    printed = [value(match.group(1)) for match in PRINTED.finditer(source)]
+    messages += [words.strip() for line in printed for words in WORDS.findall(re.sub(r"%[sd]", "%", line))]
     return {(FORMS[kind].format(expression), expression) for kind, expression in expressions} | {(text, text) for text in messages}
 
 

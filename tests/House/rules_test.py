@@ -48,6 +48,11 @@ class CheckTexts(unittest.TestCase):
         source = '// ZELSYP_CHECK_TRUE(no)\nCheckFailure__("two " "halves", f, 1, 0); Check_Pointer_Failed__("q", f, 2, 0);'
         self.assertEqual({text for text, _ in check_texts.check_texts(source)}, {"two halves", "pointer q is NULL"})
 
+    def test_reports_of_handlers_and_printed_lines_are_found_without_their_values(self):
+        source = 'HandleFailure("not supported", f, 1); fprintf(stderr, "in %s %d, the words between\\n", f, 2); R(a, Check_TRUE_Failed__, "b");'
+        self.assertEqual({text for text, _ in check_texts.check_texts(source)},
+                         {"not supported", ", the words between", "boolean b is FALSE"})
+
     def test_the_macros_themselves_are_no_checks(self):
         self.assertEqual(check_texts.check_texts("#define A(x) \\\n  ZELSYP_CHECK_TRUE(x)\n"), set())
 

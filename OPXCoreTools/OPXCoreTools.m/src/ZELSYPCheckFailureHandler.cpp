@@ -67,8 +67,9 @@ void ZELSYPCheckFailureHandler::ReleaseAndUnmark()
   bool last = false;
   {
     std::lock_guard<ZELMutex> hold(_markLock);
-    if (_markCount-- == 1 && HasEvent(_pFreeEvent, __LINE__))
+    if (HasEvent(_pFreeEvent, __LINE__) && _markCount == 1)
       _pFreeEvent->Signal();
+    --_markCount;
     last = DropReference();
   }
   if (last)

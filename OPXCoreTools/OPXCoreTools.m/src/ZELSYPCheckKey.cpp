@@ -14,8 +14,10 @@ bool IsGiven(const T* i_pValue, int i_line)
 
 const char* TextOf(const char* i_file)
 {
-  const bool given = IsGiven(i_file, __LINE__) || IsGiven(i_file, __LINE__); // Kept: a null text is printed twice.
-  return given ? i_file : "";
+  if (IsGiven(i_file, __LINE__))
+    return i_file;
+  IsGiven(i_file, __LINE__); // Kept: a null text is printed twice.
+  return "";
 }
 } // namespace
 

@@ -6,7 +6,7 @@ namespace
 {
 constexpr std::size_t bufferSize = 65536;
 // A line's memory is kept for the next one unless it was an exception.
-constexpr std::size_t keptCapacity = 1024 * 1024;
+constexpr std::size_t keptCapacity = std::size_t{1} << 20;
 } // namespace
 
 OPXExplorerLineReader::OPXExplorerLineReader(Source i_source, std::size_t i_maxLength)

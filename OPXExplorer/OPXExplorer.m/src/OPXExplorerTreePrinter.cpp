@@ -46,8 +46,11 @@ std::string MakeSize(std::uint64_t i_bytes)
   constexpr const char* units[] = {"B", "kB", "MB", "GB", "TB", "PB", "EB"};
   auto size = static_cast<double>(i_bytes);
   std::size_t unit = 0;
-  for (; size >= 999.5; size /= 1000)
+  while (size >= 999.5)
+  {
+    size /= 1000;
     ++unit;
+  }
   char text[32];
   std::snprintf(text, sizeof text, unit > 0 && size < 9.95 ? "%7.1f %-2s" : "%7.0f %-2s", size, units[unit]);
   return text;

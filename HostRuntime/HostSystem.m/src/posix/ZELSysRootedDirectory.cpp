@@ -1,11 +1,11 @@
 #include "ZELSysRootedDirectory.h"
 
 #include <cerrno>
+#include <ctime>
 #include <dirent.h>
 #include <fcntl.h>
 #include <string>
 #include <sys/stat.h>
-#include <time.h>
 #include <unistd.h>
 #include <utility>
 
