@@ -11,6 +11,10 @@
 // ComputeJSON answers a value that the caller owns. WriteJSON appends the text of ComputeJSON().dump() to io_text without
 // making the value; where dump() throws (a text that is not UTF-8: type error 316), it throws the same and leaves io_text
 // as it was.
+//
+// Reading, moving, WriteJSON and the ComputeJSON of a single node or of a structure take values of any depth; copying or
+// comparing nodes and the ComputeJSON of an answer of rows go through the JSON library, which calls itself once a level:
+// there the depth of the properties is limited by the stack of the thread.
 #ifndef ZELSYPDataSourceParameters_H
 #define ZELSYPDataSourceParameters_H
 
@@ -18,6 +22,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include <iterator>
+#include <map>
 #include <optional>
 #include <string>
 #include <utility>
@@ -53,6 +59,17 @@ public:
   // i_isSelected: -1 not stated, 0 not selected, anything else selected. Give rvalues to have them moved.
   TreeNodeProperties(std::string i_id, Properties i_properties, bool i_hasChildren, int i_isSelected);
   TreeNodeProperties(IndexPath i_indexPath, Properties i_properties, bool i_hasChildren, int i_isSelected);
+  // From a map that sorts in another way, such as std::map<std::string, nlohmann::json>: its values are moved one by one.
+  template <typename Less>
+  TreeNodeProperties(std::string i_id, std::map<std::string, nlohmann::json, Less> i_properties, bool i_hasChildren, int i_isSelected)
+      : TreeNodeProperties(std::move(i_id), TakeProperties(i_properties), i_hasChildren, i_isSelected)
+  {
+  }
+  template <typename Less>
+  TreeNodeProperties(IndexPath i_indexPath, std::map<std::string, nlohmann::json, Less> i_properties, bool i_hasChildren, int i_isSelected)
+      : TreeNodeProperties(std::move(i_indexPath), TakeProperties(i_properties), i_hasChildren, i_isSelected)
+  {
+  }
 
   // Replaces the value of a key that is there already.
   void AddProperty(std::string i_key, nlohmann::json i_value) { _properties.insert_or_assign(std::move(i_key), std::move(i_value)); }
@@ -71,6 +88,12 @@ public:
 
 private:
   friend class TreeNodesAnswerParameters;
+
+  template <typename Map>
+  static Properties TakeProperties(Map& io_properties)
+  {
+    return Properties(std::make_move_iterator(io_properties.begin()), std::make_move_iterator(io_properties.end()));
+  }
 
   IndexPath _indexPath;
   std::string _id;
@@ -154,6 +177,10 @@ public:
   // The depth of the tree is limited by memory alone.
   explicit TreeNodesModelStructureAnswerParameters(const nlohmann::json& i_json);
   explicit TreeNodesModelStructureAnswerParameters(nlohmann::json&& i_json);
+  TreeNodesModelStructureAnswerParameters(const TreeNodesModelStructureAnswerParameters& i_other);
+  TreeNodesModelStructureAnswerParameters(TreeNodesModelStructureAnswerParameters&&) = default;
+  TreeNodesModelStructureAnswerParameters& operator=(const TreeNodesModelStructureAnswerParameters& i_other);
+  TreeNodesModelStructureAnswerParameters& operator=(TreeNodesModelStructureAnswerParameters&&) = default;
 
   nlohmann::json ComputeJSON() const override;
   void WriteJSON(std::string& io_text) const;

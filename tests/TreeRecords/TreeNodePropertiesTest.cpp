@@ -158,8 +158,28 @@ TEST(TreeNodePropertiesTest, ComparesEverythingButTheSelection)
   EXPECT_FALSE(TreeNodeProperties(IndexPath{0, 3}, {}, true, 0) == TreeNodeProperties(IndexPath{0, 4}, {}, true, 0));
 }
 
-TEST(TreeNodePropertiesTest, ReadsPropertiesOfAnyDepth)
+TEST(TreeNodePropertiesTest, ReadsAndWritesPropertiesOfAnyDepth)
 {
-  const TreeNodeProperties node(json{{"idPath", 0}, {"properties", {{"deep", NestedArrays(100'000, 1)}}}});
+  const TreeNodeProperties node(json{{"idPath", 0}, {"properties", {{"deep", NestedArrays(200'000, 1)}}}});
   EXPECT_TRUE(node.GetProperties().at("deep")[0][0].is_array());
+  EXPECT_TRUE(node.ComputeJSON()["properties"]["deep"][0][0].is_array());
+}
+
+TEST(TreeNodePropertiesTest, TakesAMapOfAnyOrder)
+{
+  const std::map<std::string, json> upwards = {{"a", 1}, {"b", {2, 3}}};
+  std::map<std::string, json, std::greater<>> downwards(upwards.begin(), upwards.end());
+  const TreeNodeProperties expected("x", {{"a", 1}, {"b", {2, 3}}}, true, -1);
+  EXPECT_EQ(TreeNodeProperties("x", upwards, true, -1), expected);
+  EXPECT_EQ(TreeNodeProperties("x", std::move(downwards), true, -1), expected);
+  EXPECT_EQ(TreeNodeProperties(IndexPath{3}, upwards, true, -1).GetProperties(), expected.GetProperties());
+  EXPECT_THAT(upwards, testing::SizeIs(2));
+}
+
+TEST(TreeNodePropertiesTest, MovesTheValuesOfAMapThatIsGivenAway)
+{
+  std::map<std::string, json> properties = {{"text", std::string(1000, 'x')}};
+  const char* const pText = properties["text"].get_ref<const std::string&>().data();
+  const TreeNodeProperties node("x", std::move(properties), true, -1);
+  EXPECT_EQ(node.GetProperties().at("text").get_ref<const std::string&>().data(), pText);
 }

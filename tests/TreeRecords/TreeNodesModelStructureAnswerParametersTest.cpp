@@ -89,3 +89,13 @@ TEST(TreeNodesModelStructureAnswerParametersTest, WalksATreeOfAnyDepth)
   EXPECT_EQ(WrittenJSON(answer).size(),
             s_withoutNumber.dump().size() + depth * std::string(R"({"children":[],"numberOfChildren":1,"stringIdentifier":"x"})").size());
 }
+
+TEST(TreeNodesModelStructureAnswerParametersTest, CopiesAValueOfAnyDepth)
+{
+  const TreeNodesModelStructureAnswerParameters answer(NestedArrays(200'000, 1));
+  const TreeNodesModelStructureAnswerParameters copy = answer;
+  TreeNodesModelStructureAnswerParameters assigned;
+  assigned = answer;
+  EXPECT_EQ(WrittenJSON(copy), WrittenJSON(answer));
+  EXPECT_EQ(WrittenJSON(assigned), WrittenJSON(answer));
+}

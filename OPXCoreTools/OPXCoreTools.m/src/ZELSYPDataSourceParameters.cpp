@@ -101,12 +101,19 @@ Json CopyDeep(const Json& i_value)
   return copy;
 }
 
+Properties CopyProperties(const Properties& i_properties)
+{
+  Properties copy;
+  for (const auto& [key, value] : i_properties)
+    copy.emplace_hint(copy.end(), key, CopyDeep(value));
+  return copy;
+}
+
 Properties ToProperties(const Json& i_properties)
 {
   if (!i_properties.is_object())
     return i_properties.get<Properties>(); // raises the type error
-  Json copy = CopyDeep(i_properties);
-  return std::move(*copy.get_ptr<Properties*>());
+  return CopyProperties(*i_properties.get_ptr<const Properties*>());
 }
 
 // Runs i_read; an exception of the kind given is told on standard error and goes no further.
@@ -355,7 +362,7 @@ TreeNodeProperties::TreeNodeProperties(IndexPath i_indexPath, Properties i_prope
 Json TreeNodeProperties::ComputeJSON() const
 {
   Json::object_t json;
-  json.emplace("properties", _properties);
+  json.emplace("properties", CopyProperties(_properties));
   json.emplace("hasChildren", _hasChildren);
   if (!_indexPath.empty())
     json.emplace("indexPath", _indexPath);
@@ -440,6 +447,18 @@ TreeNodesModelStructureAnswerParameters::TreeNodesModelStructureAnswerParameters
 TreeNodesModelStructureAnswerParameters::TreeNodesModelStructureAnswerParameters(Json&& i_json) : _json(std::move(i_json))
 {
   CheckJsonStructure(_json);
+}
+
+TreeNodesModelStructureAnswerParameters::TreeNodesModelStructureAnswerParameters(const TreeNodesModelStructureAnswerParameters& i_other)
+    : RequestAnswer(i_other), _json(CopyDeep(i_other._json))
+{
+}
+
+TreeNodesModelStructureAnswerParameters&
+TreeNodesModelStructureAnswerParameters::operator=(const TreeNodesModelStructureAnswerParameters& i_other)
+{
+  _json = CopyDeep(i_other._json);
+  return *this;
 }
 
 // Depth first, in the order of the message, with a list of what is left instead of a call for each level.
