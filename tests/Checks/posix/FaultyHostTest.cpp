@@ -22,6 +22,16 @@ ChildResult RunCase(const std::string& i_case, const std::string& i_argument = "
   return ChildProcess(ChildProcess::Beside("faulty_host"), {i_case, i_argument}).Set("ZELDevelopmentStage", "1").Run();
 }
 
+class FaultyHostMemory : public testing::Test
+{
+protected:
+  void SetUp() override
+  {
+    if (RunCase("AskForMemory").out == "granted\nwent on\n")
+      GTEST_SKIP() << "this sanitizer's runtime keeps its own operators, which grant memory always";
+  }
+};
+
 // What it wrote; the process went on to its own end.
 void ExpectToGoOn(const ChildResult& i_result, const std::string& i_out, const std::string& i_err)
 {
@@ -39,13 +49,13 @@ int HashOf(const std::string& i_file, std::uint32_t i_line)
 }
 } // namespace
 
-TEST(FaultyHost, GivesNoMemoryForTheDefaultHandler)
+TEST_F(FaultyHostMemory, IsRefusedToTheDefaultHandler)
 {
   ExpectToGoOn(RunCase("FailWithoutMemoryForTheHandler"), "",
                "** INTERNAL ERROR in ZELSYPCheck.cpp LINE, failed to create the default handler");
 }
 
-TEST(FaultyHost, GivesNoMemoryForAMessageAndTheExpressionIsReported)
+TEST_F(FaultyHostMemory, IsRefusedToAMessageAndTheExpressionIsReported)
 {
   ExpectToGoOn(RunCase("FailWithoutMemoryForTheMessage"), "i_pNode, Some.cpp, 12\n", "** INTERNAL ERROR in ZELSYPCheck.cpp LINE\n");
 }

@@ -121,6 +121,18 @@ void FailOnce(const char*)
   CheckFailure__("message", "Some.cpp", 12, nullptr);
 }
 
+// Tells whether this program's operators are the ones that are called: a sanitizer's runtime may keep its own.
+void AskForMemory(const char*)
+{
+  // Not by name: the compiler would put the operator above in the call's place.
+  void* (*volatile allocate)(std::size_t, const std::nothrow_t&) = &::operator new;
+  objectsGetMemory = false;
+  void* const pMemory = allocate(1, std::nothrow);
+  objectsGetMemory = true;
+  std::puts(pMemory ? "granted" : "refused");
+  ::operator delete(pMemory);
+}
+
 void FailWithoutMemoryForTheHandler(const char*)
 {
   objectsGetMemory = false;
@@ -198,7 +210,8 @@ struct Case
   const char* name;
   void (*run)(const char* i_argument);
 };
-const Case cases[] = {{"FailWithoutMemoryForTheHandler", &FailWithoutMemoryForTheHandler},
+const Case cases[] = {{"AskForMemory", &AskForMemory},
+                      {"FailWithoutMemoryForTheHandler", &FailWithoutMemoryForTheHandler},
                       {"FailWithoutMemoryForTheMessage", &FailWithoutMemoryForTheMessage},
                       {"FailWithoutFormatting", &FailWithoutFormatting},
                       {"FailWithoutAnEvent", &FailWithoutAnEvent},
