@@ -155,15 +155,14 @@ ZELSysRootedDirectory::Stamp ZELSysRootedDirectory::GetStamp() const
   return stamp;
 }
 
+// A handle remembers how far it was read, and not every system forgets that when it is asked to: each listing has a
+// handle of its own.
 bool ZELSysRootedDirectory::ForEachEntry(const Visitor& i_visitor) const
 {
+  const ZELSysRootedDirectory listed(OpenEntry(_handle, std::string_view(), directoryAccess, FILE_DIRECTORY_FILE));
   std::vector<char> block(65536);
-  FILE_INFO_BY_HANDLE_CLASS wanted = FileIdBothDirectoryRestartInfo;
-  while (GetFileInformationByHandleEx(AsHandle(_handle), wanted, block.data(), static_cast<DWORD>(block.size())))
-  {
+  while (GetFileInformationByHandleEx(AsHandle(listed._handle), FileIdBothDirectoryInfo, block.data(), static_cast<DWORD>(block.size())))
     VisitBlock(block.data(), i_visitor);
-    wanted = FileIdBothDirectoryInfo;
-  }
   return GetLastError() == ERROR_NO_MORE_FILES;
 }
 
