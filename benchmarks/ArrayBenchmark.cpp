@@ -4,9 +4,6 @@
 // The heap is told to keep what is freed: else whichever container has the largest block pays for pages that the heap gave
 // back to the system after its last run (9 ns an element, for the project; the vector's blocks stayed below the limit
 // that the project's had set), and that is not what is asked here.
-//
-// Tried and dropped: a block of default-made elements that appending assigns to and growth copies. It counts every smart
-// pointer twice at each growth; now a block is raw memory, and growth moves.
 #include "ZELSYPArray.h"
 #include "ZELSYPRefCounted.h"
 

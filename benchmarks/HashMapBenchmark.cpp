@@ -5,7 +5,7 @@
 //
 // Tried and dropped: a home group from the middle bits of the product. A third of a million addresses at regular
 // distances found no room in their home group, and one miss in ten met a tag of its own by chance; from the highest bits
-// there are none of either. A pair from malloc each: blocks of pairs insert in a third of the time.
+// there are none of either.
 #include "ZELSYPHashMap.h"
 #include "ZELString.h"
 

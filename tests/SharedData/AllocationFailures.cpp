@@ -5,14 +5,6 @@
 bool AllocationFailures::s_refusing = false;
 int AllocationFailures::s_requests = 0;
 
-bool AllocationFailures::AreObeyed()
-{
-  AllocationFailures refused;
-  void* const pMemory = ::operator new(1, std::nothrow);
-  ::operator delete(pMemory);
-  return pMemory == nullptr;
-}
-
 namespace
 {
 template <class... Alignment>

@@ -7,6 +7,8 @@
 #ifndef AllocationFailures_H
 #define AllocationFailures_H
 
+#include <new>
+
 class AllocationFailures
 {
 public:
@@ -15,8 +17,14 @@ public:
   AllocationFailures(const AllocationFailures&) = delete;
   AllocationFailures& operator=(const AllocationFailures&) = delete;
 
-  // Whether this program's headers obey at all.
-  static bool AreObeyed();
+  // Whether this program's headers obey at all. Inline: asked where the tests are compiled, and not beside the operators,
+  // where the compiler may take them although the linker takes others.
+  static bool AreObeyed()
+  {
+    const int requests = s_requests;
+    ::operator delete(::operator new(1, std::nothrow));
+    return s_requests != requests;
+  }
   static bool IsRefusing() noexcept { return s_refusing; }
   // How often memory was asked for in this way since the program started, refused or not.
   static int GetRequestCount() noexcept { return s_requests; }
