@@ -1,5 +1,7 @@
 // ZELStackTrace: the call stack of the thread that asks, with function, file and line where the program carries them.
 // ZELStackTrace trace; trace.GetTrace(); trace.Print(stderr, 0, 0);
+//
+// On Windows file and line appear only where DbgHelp reads the program's debug information.
 #ifndef ZELStackTrace_H
 #define ZELStackTrace_H
 

@@ -12,7 +12,8 @@
 class OPXHOSTRUNTIME_EXPORT ZELSysDirectory
 {
 public:
-  // Opens the directory by its wide name; one that cannot be listed has no entries.
+  // Opens the directory by its wide name, which ends without a separator: "" and "C:" name a root, as they do in the
+  // names below it. One that cannot be listed has no entries.
   explicit ZELSysDirectory(const ZELUnicodeString& i_directory);
   ZELSysDirectory(const ZELSysDirectory&) = delete;
   ZELSysDirectory& operator=(const ZELSysDirectory&) = delete;

@@ -99,7 +99,7 @@ bool PathExpansion::Accepts(const WildcardPattern& i_upperPattern, std::string_v
 
 void PathExpansion::AddMatches(const ZELUnicodeString& i_directory, const WildcardPattern& i_upperPattern)
 {
-  ZELSysDirectory entries(ZELUnicodeString::Join(i_directory.GetUTF8(), "\\", {}));
+  ZELSysDirectory entries(i_directory);
   for (std::string_view name; entries.Next(name);)
   {
     if (Accepts(i_upperPattern, name))

@@ -44,6 +44,14 @@ TEST(PlatformPath, TakesTrailingDotsAndSpacesOffAsTheSystemDoes)
   EXPECT_EQ(List(In(tree, "*")), Texts{tree.Path("x")});
 }
 
+TEST(PlatformPath, ListsADirectoryByTheNameThatTheSystemDoesNotRewrite)
+{
+  TemporaryTree tree;
+  tree.AddFile("f");
+  const std::string directory = "\\\\?\\" + tree.Path();
+  EXPECT_EQ(List((directory + "\\*").c_str()), Texts{directory + "\\f"});
+}
+
 TEST(PlatformPath, StartsALeadingBackslashAtTheWorkingDirectory)
 {
   TemporaryTree tree;

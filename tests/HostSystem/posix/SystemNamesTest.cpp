@@ -13,6 +13,7 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <vector>
 
 OPX_CHILD_ENTRY(PrintTemporaryDirectory)
 {
@@ -40,6 +41,18 @@ TEST(SystemNamesTest, NetworkNameStartsAtTheRoot)
   const TestFolder folder;
   folder.Write("a.txt", "x");
   EXPECT_NE(ZELSysGetFileAttributes(("\\" + folder.Path("a.txt")).c_str()), -1);
+}
+
+TEST(SystemNamesTest, EmptyNameAndEveryDriveListTheRoot)
+{
+  for (const char* root : {"", "C:", "z:"})
+  {
+    std::vector<std::string> names;
+    ZELSysDirectory entries{ZELUnicodeString(root)};
+    for (ZELUnicodeString name; entries.Next(name);)
+      names.emplace_back(name.GetUTF8());
+    EXPECT_THAT(names, testing::IsSupersetOf({"etc", "tmp", "usr"})) << root;
+  }
 }
 
 TEST(SystemNamesTest, OneLetterAndAColonIsADriveOnlyForALetter)

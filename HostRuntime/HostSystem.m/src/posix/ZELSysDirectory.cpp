@@ -6,7 +6,8 @@
 
 struct ZELSysDirectory::Stream
 {
-  explicit Stream(const ZELUnicodeString& i_directory) : entries(opendir(SystemPath(i_directory).Get())) {}
+  // The system takes no empty name for the root.
+  explicit Stream(const ZELUnicodeString& i_directory) : entries(opendir(i_directory.IsEmpty() ? "/" : SystemPath(i_directory).Get())) {}
   Stream(const Stream&) = delete;
   Stream& operator=(const Stream&) = delete;
   ~Stream()
