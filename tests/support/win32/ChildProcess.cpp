@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <stdexcept>
 #include <thread>
 #include <windows.h>
@@ -112,16 +113,18 @@ std::string EnvironmentBlock(const Changes& i_changes)
   return block + '\0';
 }
 
-HANDLE Start(std::string i_commandLine, std::string i_environment, HANDLE i_in, HANDLE i_out, HANDLE i_err)
+HANDLE Start(const std::string& i_commandLine, std::string i_environment, HANDLE i_in, HANDLE i_out, HANDLE i_err)
 {
-  STARTUPINFOA startup = {};
+  // The narrow call would take the line in the code page of the machine, which does not know every character.
+  std::wstring commandLine = std::filesystem::u8path(i_commandLine).wstring();
+  STARTUPINFOW startup = {};
   startup.cb = sizeof(startup);
   startup.dwFlags = STARTF_USESTDHANDLES;
   startup.hStdInput = i_in;
   startup.hStdOutput = i_out;
   startup.hStdError = i_err;
   PROCESS_INFORMATION process = {};
-  if (!CreateProcessA(nullptr, i_commandLine.data(), nullptr, nullptr, TRUE, 0, i_environment.data(), nullptr, &startup, &process))
+  if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0, i_environment.data(), nullptr, &startup, &process))
     throw std::runtime_error(i_commandLine + ": error " + std::to_string(GetLastError()));
   CloseHandle(process.hThread);
   return process.hProcess;
