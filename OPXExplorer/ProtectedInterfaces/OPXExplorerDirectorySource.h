@@ -39,6 +39,7 @@ private:
 
   // Not open when the path is not found.
   ZELSysRootedDirectory Find(const Path& i_path) const;
+  Block TryReadBlock(const Path& i_path, int i_first, int i_last, const OPXExplorerListing::SortModel& i_sortModel);
   Block ReadBlock(const Path& i_path, int i_first, int i_last, const OPXExplorerListing::SortModel& i_sortModel);
 
   ZELSysRootedDirectory _root;

@@ -23,6 +23,10 @@ public:
   static constexpr std::size_t MaxMessageSize = std::size_t{16} << 20;
   // In levels of arrays and objects, the message's own and a batch's included.
   static constexpr int MaxNesting = 256;
+  // Of a batch, and of a grouped request.
+  static constexpr std::size_t MaxRequests = 1000;
+  // In bytes: once the answers of a batch take so much, its other requests are refused.
+  static constexpr std::size_t MaxBatchAnswerSize = std::size_t{64} << 20;
 
   // The source is borrowed and outlives the session. A session belongs to one thread at a time.
   explicit OPXTreeSession(OPXTreeDataSource& i_source);
@@ -39,7 +43,7 @@ public:
 
 private:
   std::string AnswerBatch(nlohmann::json& io_batch) const;
-  std::string AnswerRequest(nlohmann::json& io_request) const;
+  std::string AnswerRequest(nlohmann::json& io_request, bool i_hasRoom = true) const;
 
   OPXTreeDataSource& _source;
 };

@@ -45,7 +45,7 @@ bool IsNotification(const json& i_message)
 bool IsAnswered(const std::string& i_line)
 {
   if (i_line.empty() || !json::accept(i_line) || i_line.find('\0') != std::string::npos)
-    return !i_line.empty();
+    return true;
   const json message = json::parse(i_line);
   if (!message.is_array())
     return !IsNotification(message);
@@ -124,10 +124,23 @@ TEST(OPXExplorerProgramTest, NoInputEndsItQuietly)
   EXPECT_EQ(result.out + result.err, "");
 }
 
-TEST(OPXExplorerProgramTest, EmptyLinesAndCarriageReturnsAreTolerated)
+TEST(OPXExplorerProgramTest, ShowsAsManyRowsOfADirectoryAsAsked)
 {
-  const ChildResult result = Serve(TemporaryTree(), "\n\r\n" + rows + "\r\n\n" + rows);
-  EXPECT_EQ(SplitLines(result.out).size(), 2u);
+  TemporaryTree tree;
+  for (const char* name : {"a", "b", "c"})
+    tree.AddFile(name);
+  const ChildResult result = RunExplorer({"--rows", "2", tree.SystemPath().u8string()}, "");
+  EXPECT_THAT(result.out, testing::EndsWith("... and 1 more\n"));
+  EXPECT_TRUE(result.Succeeded()) << result;
+}
+
+TEST(OPXExplorerProgramTest, ALineWithoutTextIsNoJSONAndACarriageReturnBeforeItsEndIsIgnored)
+{
+  const ChildResult result = Serve(TemporaryTree(), "\n\r\n \n" + rows + "\r\n" + rows);
+  std::vector<int> codes;
+  for (const std::string& line : SplitLines(result.out))
+    codes.push_back(json::parse(line).value("/error/code"_json_pointer, 0));
+  EXPECT_THAT(codes, testing::ElementsAre(-32700, -32700, -32700, 0, 0));
   EXPECT_TRUE(result.Succeeded()) << result;
 }
 

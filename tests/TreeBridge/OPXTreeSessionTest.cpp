@@ -160,6 +160,49 @@ TEST_F(OPXTreeSessionTest, AnEmptyBatchIsOneInvalidRequest)
   EXPECT_EQ(GetCode("[]"), -32600);
 }
 
+TEST_F(OPXTreeSessionTest, ABatchHoldsAThousandRequestsAndNoMore)
+{
+  std::string batch = "[" + topRows;
+  for (int i = 1; i < 1000; ++i)
+    batch += "," + topRows;
+  EXPECT_EQ(Ask(batch + "]").size(), 1000u);
+  EXPECT_EQ(GetCode(batch + "," + topRows + "]"), -32600);
+}
+
+TEST_F(OPXTreeSessionTest, AGroupedRequestHoldsAThousandRequestsAndNoMore)
+{
+  json requests = json::array();
+  for (int i = 0; i < 1000; ++i)
+    requests.push_back({{"startRow", 0}, {"endRow", 0}, {"groupKeys", json::array()}});
+  EXPECT_TRUE(Call("tree/rows", json{{"groupedRequest", requests}}.dump()).contains("result"));
+  requests.push_back(requests[0]);
+  EXPECT_EQ(Call("tree/rows", json{{"groupedRequest", requests}}.dump())["error"]["code"], -32602);
+}
+
+TEST(OPXTreeSessionLimitsTest, ABatchWhoseAnswersTakeTooMuchRefusesItsOtherRequests)
+{
+  struct LargeSource : OPXTreeDataSource
+  {
+    using Answer = ZELSYPDataSourceParameters::TreeNodesAnswerParameters;
+    Answer RequestRows(const ZELSYPDataSourceParameters::TreeNodesRequestParameters&) override
+    {
+      return Answer({{{"a", {{"text", std::string(std::size_t{20} << 20, 'x')}}, false, -1}}}, {1});
+    }
+    ZELSYPDataSourceParameters::TreeNodesModelStructureAnswerParameters
+    RequestStructure(const ZELSYPDataSourceParameters::TreeNodesModelStructureParameters&) override
+    {
+      return {};
+    }
+  } source;
+  const std::string request = R"({"jsonrpc":"2.0","id":1,"method":"tree/rows","params":{"startRow":0,"endRow":1,"groupKeys":[]}})";
+  const json answers =
+      json::parse(OPXTreeSession(source).Answer("[" + request + "," + request + "," + request + "," + request + "," + request + "]"));
+  std::vector<int> codes;
+  for (const json& answer : answers)
+    codes.push_back(answer.value("/error/code"_json_pointer, 0));
+  EXPECT_THAT(codes, testing::ElementsAre(0, 0, 0, 0, -32600));
+}
+
 TEST_F(OPXTreeSessionTest, ABatchAnswersEachRequestInOrder)
 {
   const json answers = Ask("[" + topRows + ",1," + note + R"(,{"jsonrpc":"2.0","id":"z","method":"nothing"}])");

@@ -5,12 +5,17 @@
 #include "OPXExplorerTime.h"
 
 #include <algorithm>
+#include <climits>
+#include <stdexcept>
 #include <utility>
 
 namespace Records = ZELSYPDataSourceParameters;
 
 namespace
 {
+// Of one answer, over all its requests: what is cut off can be asked for again.
+constexpr int maxRows = 100000;
+
 const char* GetKindName(ZELSysRootedDirectory::Kind i_kind)
 {
   switch (i_kind)
@@ -57,10 +62,14 @@ Records::TreeNodesAnswerParameters OPXExplorerDirectorySource::RequestRows(const
   std::vector<std::vector<Row>> rows;
   std::vector<int> totals;
   std::vector<int> notFound;
+  int room = maxRows;
   const OPXExplorerListing::SortModel sortModel = i_request.GetSortModel();
   for (int i = 0; i < i_request.GetRequestCount(); ++i)
   {
-    Block block = ReadBlock(i_request.GroupKeys(i), i_request.GetFirstNodeIndex(i), i_request.GetLastNodeIndex(i), sortModel);
+    const int first = std::max(i_request.GetFirstNodeIndex(i), 0);
+    const int last = std::min(i_request.GetLastNodeIndex(i), first > INT_MAX - room ? INT_MAX : first + room);
+    Block block = TryReadBlock(i_request.GroupKeys(i), first, last, sortModel);
+    room -= static_cast<int>(block.rows.size());
     rows.push_back(std::move(block.rows));
     totals.push_back(block.total);
     if (!block.isFound)
@@ -72,6 +81,20 @@ Records::TreeNodesAnswerParameters OPXExplorerDirectorySource::RequestRows(const
   return answer;
 }
 
+// A directory that breaks off while it is listed counts as not found, so that the other requests keep their rows.
+OPXExplorerDirectorySource::Block OPXExplorerDirectorySource::TryReadBlock(const Path& i_path, int i_first, int i_last,
+                                                                           const OPXExplorerListing::SortModel& i_sortModel)
+{
+  try
+  {
+    return ReadBlock(i_path, i_first, i_last, i_sortModel);
+  }
+  catch (const std::runtime_error&)
+  {
+    return {};
+  }
+}
+
 OPXExplorerDirectorySource::Block OPXExplorerDirectorySource::ReadBlock(const Path& i_path, int i_first, int i_last,
                                                                         const OPXExplorerListing::SortModel& i_sortModel)
 {
@@ -80,11 +103,11 @@ OPXExplorerDirectorySource::Block OPXExplorerDirectorySource::ReadBlock(const Pa
   if (!directory.IsOpen())
     return block;
   const std::shared_ptr<OPXExplorerListing> pListing = _cache.GetListing(directory);
-  const OPXExplorerListing::Order& order = pListing->GetOrder(i_sortModel, directory, i_first <= 0);
+  const OPXExplorerListing::Order& order = pListing->GetOrder(i_sortModel, directory, i_first == 0);
   block.isFound = true;
   block.total = static_cast<int>(order.size());
   const int last = std::min(i_last, block.total);
-  for (int i = std::max(i_first, 0); i < last; ++i)
+  for (int i = i_first; i < last; ++i)
     block.rows.push_back(MakeRow(pListing->GetEntry(order[static_cast<std::size_t>(i)]), directory));
   return block;
 }

@@ -11,12 +11,12 @@
 
 namespace
 {
-int Serve(ZELSysRootedDirectory i_root, bool i_isStdio)
+int Serve(ZELSysRootedDirectory i_root, const OPXExplorerOptions& i_options)
 {
   OPXExplorerDirectorySource source(std::move(i_root));
   const OPXTreeSession session(source);
-  if (!i_isStdio)
-    return OPXExplorerTreePrinter(session).Print() ? OPXExplorerOptions::Done : OPXExplorerOptions::NotReadable;
+  if (!i_options.IsStdio())
+    return OPXExplorerTreePrinter(session, i_options.GetRows()).Print() ? OPXExplorerOptions::Done : OPXExplorerOptions::NotReadable;
   OPXExplorerStdioServer(session).Run();
   return OPXExplorerOptions::Done;
 }
@@ -30,7 +30,7 @@ int main(int i_count, char** i_pArguments)
     return *code;
   ZELSysRootedDirectory root(ZELUnicodeString::FromUTF8(options.GetDirectory()));
   if (root.IsOpen())
-    return Serve(std::move(root), options.IsStdio());
+    return Serve(std::move(root), options);
   ZELSysWriteStandardError("opx-explorer: cannot read the directory " + options.GetDirectory() + "\n");
   return OPXExplorerOptions::NotReadable;
 }

@@ -24,10 +24,13 @@ public:
 
   const std::string& GetDirectory() const noexcept { return _directory; }
   bool IsStdio() const noexcept { return _isStdio; }
+  // To print of each directory.
+  int GetRows() const noexcept { return _rows; }
 
 private:
   std::string _directory;
   bool _isStdio = false;
+  int _rows = 10;
 };
 
 #endif

@@ -22,5 +22,5 @@ std::string OPXExplorerStdioServer::AnswerLine() const
 {
   if (_reader.IsTooLong())
     return OPXTreeSession::AnswerOversized();
-  return _reader.GetLine().empty() ? std::string() : _session.Answer(_reader.GetLine());
+  return _session.Answer(_reader.GetLine());
 }

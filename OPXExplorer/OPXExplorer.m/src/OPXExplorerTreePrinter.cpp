@@ -12,7 +12,6 @@
 namespace
 {
 constexpr std::size_t levels = 2;
-constexpr int rowsPerDirectory = 10;
 constexpr std::size_t nameColumns = 44;
 
 std::string MakeIndent(std::size_t i_level)
@@ -72,18 +71,19 @@ std::string MakeLine(const nlohmann::json& i_row, std::size_t i_level)
   return name + size + "  " + MakeDate(i_row.value("modified", ""));
 }
 
-bool Write(std::string i_line)
-{
-  i_line.erase(i_line.find_last_not_of(' ') + 1);
-  return ZELSysWriteStandardOutput(i_line + "\n");
-}
 } // namespace
 
-OPXExplorerTreePrinter::OPXExplorerTreePrinter(const OPXTreeSession& i_session) : _session(i_session) {}
+OPXExplorerTreePrinter::OPXExplorerTreePrinter(const OPXTreeSession& i_session, int i_rows) : _session(i_session), _rows(i_rows) {}
 
 bool OPXExplorerTreePrinter::Print()
 {
   return PrintLevel({});
+}
+
+void OPXExplorerTreePrinter::Write(std::string i_line)
+{
+  i_line.erase(i_line.find_last_not_of(' ') + 1);
+  _isRead = _isRead && ZELSysWriteStandardOutput(i_line + "\n");
 }
 
 bool OPXExplorerTreePrinter::PrintLevel(const Path& i_path)
@@ -97,7 +97,7 @@ bool OPXExplorerTreePrinter::PrintLevel(const Path& i_path)
   const nlohmann::json& result = answer["result"]["groupedRequestResult"];
   bool isGood = true;
   for (const nlohmann::json& row : result["rows"][0])
-    isGood = PrintRow(row, i_path) && isGood;
+    isGood = _isRead ? PrintRow(row, i_path) && isGood : isGood;
   const int more = result["numberOfChildren"][0].get<int>() - static_cast<int>(result["rows"][0].size());
   if (more > 0)
     Write(MakeIndent(i_path.size()) + "... and " + std::to_string(more) + " more");
@@ -109,7 +109,7 @@ bool OPXExplorerTreePrinter::PrintLevel(const Path& i_path)
 bool OPXExplorerTreePrinter::PrintRow(const nlohmann::json& i_row, const Path& i_path)
 {
   Write(MakeLine(i_row, i_path.size()));
-  if (!i_row["wux_group"].get<bool>() || i_path.size() + 1 == levels)
+  if (!_isRead || !i_row["wux_group"].get<bool>() || i_path.size() + 1 == levels)
     return true;
   Path path = i_path;
   path.push_back(i_row["id"]);
@@ -118,7 +118,7 @@ bool OPXExplorerTreePrinter::PrintRow(const nlohmann::json& i_row, const Path& i
 
 nlohmann::json OPXExplorerTreePrinter::RequestRows(const Path& i_path) const
 {
-  const nlohmann::json params{{"startRow", 0}, {"endRow", rowsPerDirectory}, {"groupKeys", i_path}};
+  const nlohmann::json params{{"startRow", 0}, {"endRow", _rows}, {"groupKeys", i_path}};
   const nlohmann::json request{{"jsonrpc", "2.0"}, {"id", 1}, {"method", "tree/rows"}, {"params", params}};
   const OPXExplorerSpinner spinner("reading " + (i_path.empty() ? std::string("the directory") : MakePrintable(i_path.back())));
   return nlohmann::json::parse(_session.Answer(request.dump()));

@@ -13,10 +13,11 @@ class OPXExplorerTreePrinter
 {
 public:
   // The session is borrowed for the life of the printer.
-  explicit OPXExplorerTreePrinter(const OPXTreeSession& i_session);
+  // i_rows: of each directory, at most.
+  OPXExplorerTreePrinter(const OPXTreeSession& i_session, int i_rows);
 
-  // Two levels, a few rows a directory, to standard output. False when the tree could not be read, which is told on
-  // standard error.
+  // Two levels, to standard output, for as long as somebody reads it. False when the tree could not be read, which is
+  // told on standard error.
   bool Print();
 
 private:
@@ -25,8 +26,11 @@ private:
   bool PrintLevel(const Path& i_path);
   bool PrintRow(const nlohmann::json& i_row, const Path& i_path);
   nlohmann::json RequestRows(const Path& i_path) const;
+  void Write(std::string i_line);
 
   const OPXTreeSession& _session;
+  int _rows;
+  bool _isRead = true;
 };
 
 #endif

@@ -1,5 +1,6 @@
 #include "OPXTreeParametersCheck.h"
 
+#include "OPXTreeSession.h"
 #include "OPXTreeValue.h"
 
 #include <cstdint>
@@ -104,10 +105,10 @@ void OPXTreeParametersCheck::CheckRows(nlohmann::json& io_params)
 {
   CheckStructure(io_params);
   const OPXTreeValue params(io_params);
-  if (params.Has("groupedRequest"))
-    params.Member("groupedRequest").NeedEach(CheckGroupedRequest);
-  else
-    CheckRange(params);
+  if (!params.Has("groupedRequest"))
+    return CheckRange(params);
+  params.Member("groupedRequest").NeedEach(CheckGroupedRequest);
+  params.Member("groupedRequest").Need(io_params["groupedRequest"].size() <= OPXTreeSession::MaxRequests, "at most 1000 requests");
 }
 
 void OPXTreeParametersCheck::CheckCollapseExpand(nlohmann::json& io_params)

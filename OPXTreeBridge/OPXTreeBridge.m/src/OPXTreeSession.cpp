@@ -86,17 +86,18 @@ std::string OPXTreeSession::AnswerOversized()
 std::string OPXTreeSession::AnswerBatch(nlohmann::json& io_batch) const
 {
   NeedRequest(!io_batch.empty(), "a batch holds at least one request");
+  NeedRequest(io_batch.size() <= MaxRequests, "a batch holds at most 1000 requests");
   std::string answers;
   for (nlohmann::json& request : io_batch)
   {
-    const std::string answer = AnswerRequest(request);
+    const std::string answer = AnswerRequest(request, answers.size() < MaxBatchAnswerSize);
     if (!answer.empty())
       answers += (answers.empty() ? "[" : ",") + answer;
   }
   return answers.empty() ? answers : answers + "]";
 }
 
-std::string OPXTreeSession::AnswerRequest(nlohmann::json& io_request) const
+std::string OPXTreeSession::AnswerRequest(nlohmann::json& io_request, bool i_hasRoom) const
 {
   const std::string id = GetID(io_request);
   bool isNotification = false;
@@ -105,6 +106,7 @@ std::string OPXTreeSession::AnswerRequest(nlohmann::json& io_request) const
   {
     CheckRequest(io_request);
     isNotification = !io_request.contains("id");
+    NeedRequest(i_hasRoom, "the batch's answers so far take 64 MiB");
     // Parameters that are left out are null, which no method takes.
     answer = AnswerResult(id, OPXTreeMethods::Call(_source, io_request["method"].get<std::string>(), io_request["params"]));
   }
