@@ -615,8 +615,10 @@ void TreeNodesAnswerParameters::WriteJSON(std::string& io_text) const
 {
   // A text that grows by doubling is copied, and its pages are asked of the system, twice.
   constexpr std::size_t usualRowSize = 192;
+  std::size_t rows = 0;
   for (const auto& nodes : _nodesProperties)
-    io_text.reserve(io_text.size() + nodes.size() * usualRowSize);
+    rows += nodes.size();
+  io_text.reserve(io_text.size() + rows * usualRowSize);
   CheckSizes();
   ZELSYPJSONTextWriter writer(io_text);
   writer.Begin('{');
