@@ -34,7 +34,7 @@ def measure(program):
     """The medians of one program: name to nanoseconds of processor time, or of real time where a benchmark asks for it."""
     results = BUILD / f"{program.name}.json"
     print(f"{program.name} ...", file=sys.stderr)
-    subprocess.run([program, "--benchmark_enable_random_interleaving=true", "--benchmark_repetitions=9",
+    subprocess.run([program, "--benchmark_enable_random_interleaving=true", "--benchmark_repetitions=9", "--benchmark_min_time=0.1",
                     "--benchmark_report_aggregates_only=true", "--benchmark_out_format=json", f"--benchmark_out={results}"],
                    check=True, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)
     medians = [run for run in json.loads(results.read_text())["benchmarks"] if run.get("aggregate_name") == "median"]

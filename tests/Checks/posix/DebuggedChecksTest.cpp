@@ -1,4 +1,4 @@
-// Under gdb. On Windows no debugger that a script can drive is part of the test machine.
+// A failing check under a debugger, seen from outside: what gdb is told, and that the program goes on.
 #include "ChildProcess.h"
 #include "ChildProgram.h"
 
