@@ -1,0 +1,3 @@
+#include "EventsCases.h"
+
+void RegisterProject(const std::string&) {}

@@ -1,0 +1,36 @@
+// What it costs to raise one event at the leaf of a chain of 1, 10 and 100 nodes, from there to the root, beside signal
+// libraries and a walk written by hand (Events/ has one file a contender). This process has one thread, which must stay
+// so: reference counts are cheaper then. EventsThreadsBenchmark.cpp measures the same beside a second thread.
+//
+// RaiseUnheard               No handler anywhere.
+// RaiseHeardEverywhere       One handler at every node.
+// RaiseTenAtOrigin           Ten handlers at the leaf.
+// RaiseClass...              The same with one handler more for the middle one of the nodes' three classes, which runs at
+//                            every node. Of the peers, those that have such handlers.
+// AddRemoveHandler           One handler more and gone again, where there are 0 or 10.
+// CopyList                   A copy of a list of ten handlers, and its end.
+// IdleListenerMemory         Bytes of one of 100,000 listeners that never had a handler.
+// ListenerMemory             The same with one handler each, shared by all where the contender can.
+//
+// Every contender makes its payload anew for each raise, on the stack, and every handler adds the payload's amount to a
+// sum; a case whose sum is wrong fails. Peers without routes walk from parent to parent by plain pointers.
+#include "Events/EventsCases.h"
+
+#if __has_include(<sys/single_threaded.h>)
+#include <sys/single_threaded.h>
+#endif
+
+#include <cstdio>
+
+int main(int i_argc, char** i_argv)
+{
+  const int result = RunEventsBenchmark(i_argc, i_argv, "");
+#if __has_include(<sys/single_threaded.h>)
+  if (!__libc_single_threaded)
+  {
+    std::fprintf(stderr, "a contender started a thread: these are not the figures of a process with one thread\n");
+    return 1;
+  }
+#endif
+  return result;
+}
