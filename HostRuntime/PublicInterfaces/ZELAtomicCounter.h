@@ -1,0 +1,41 @@
+// ZELAtomicCounter: a count of references that any thread changes, without locked instructions while there is one thread.
+// ZELAtomicCounter count(1); count.Increment(); if (count.Decrement() == 0) delete this;
+//
+// 4 bytes. Nothing throws.
+#ifndef ZELAtomicCounter_H
+#define ZELAtomicCounter_H
+
+#include "OPXHostRuntimeExport.h"
+
+#include <atomic>
+#include <cstdint>
+
+// Not 0 while the system vouches that this process has one thread only; a system that does not tell says 0 for ever.
+extern OPXHOSTRUNTIME_EXPORT const char* const ZELProcessHasOneThread;
+
+class ZELAtomicCounter
+{
+public:
+  constexpr explicit ZELAtomicCounter(std::int32_t i_first) noexcept : _count(i_first) {}
+  ZELAtomicCounter(const ZELAtomicCounter&) = delete;
+  ZELAtomicCounter& operator=(const ZELAtomicCounter&) = delete;
+
+  std::int32_t Get() const noexcept { return _count.load(std::memory_order_relaxed); }
+  void Set(std::int32_t i_count) noexcept { _count.store(i_count, std::memory_order_relaxed); }
+
+  // Both answer the count that stands then. Whoever brings it to 0 sees all that was done under the other references.
+  std::int32_t Increment() noexcept { return *ZELProcessHasOneThread ? Add(1) : _count.fetch_add(1, std::memory_order_relaxed) + 1; }
+  std::int32_t Decrement() noexcept { return *ZELProcessHasOneThread ? Add(-1) : _count.fetch_sub(1, std::memory_order_acq_rel) - 1; }
+
+private:
+  std::int32_t Add(std::int32_t i_difference) noexcept
+  {
+    const std::int32_t count = Get() + i_difference;
+    Set(count);
+    return count;
+  }
+
+  std::atomic<std::int32_t> _count;
+};
+
+#endif

@@ -1,0 +1,138 @@
+// ZELBaseUnknown: the base of all counted objects, which know their class and answer for the interfaces they offer.
+// class Part : public ZELBaseUnknown { ZELDeclareClass; ... };     in one source: ZELImplementClass(Part, ZELBaseUnknown, MyModule);
+//
+// Whoever makes an object holds its first reference and gives it back with Release. An object may also stand on the stack,
+// where nobody may release it to 0. Counting may be done on any thread. 16 bytes.
+#ifndef ZELBaseUnknown_H
+#define ZELBaseUnknown_H
+
+#include "OPXHostRuntimeExport.h"
+#include "ZELAtomicCounter.h"
+#include "ZELClassId.h"
+#include "ZELMetaClass.h"
+
+#include <type_traits>
+
+// In the body of a class, which goes on with public members.
+#define ZELDeclareClass                                                                                                                    \
+public:                                                                                                                                    \
+  [[maybe_unused]] static const char* ClassName();                                                                                         \
+  [[maybe_unused]] static const ZELClassId& ClassId();                                                                                     \
+  [[maybe_unused]] static ZELMetaClass* MetaObject();                                                                                      \
+  [[maybe_unused]] static ZELBaseUnknown* CreateItself();                                                                                  \
+  ZELMetaClass* GetMetaObject() const override
+
+// In the body of an interface: a class of pure operations whose id is given in ZELImplementInterface.
+#define ZELDeclareInterface ZELDeclareClass
+
+class OPXHOSTRUNTIME_EXPORT ZELBaseUnknown
+{
+public:
+  ZELBaseUnknown() noexcept = default;
+  ZELBaseUnknown(const ZELBaseUnknown&) = delete;
+  ZELBaseUnknown& operator=(const ZELBaseUnknown&) = delete;
+  virtual ~ZELBaseUnknown();
+
+  // One reference more. Answers the count that stands then.
+  int AddRef() { return __builtin_expect(_isExtension, false) ? AddRefOwner() : _count.Increment(); }
+  // Gives a reference back; the last one deletes the object. Answers the count that is left.
+  int Release()
+  {
+    if (__builtin_expect(_isExtension, false))
+      return ReleaseOwner();
+    const int left = _count.Decrement();
+    if (left == 0)
+      Destroy();
+    return left;
+  }
+
+  // 1: *o_ppFound is the object as the class or interface of that id, with a reference added, which the caller gives back.
+  // 0: it does not offer it, and *o_ppFound is null; also for a null o_ppFound.
+  virtual int QueryInterface(const ZELIID& i_id, void** o_ppFound);
+  // For 0 the object that this one belongs to: its owner when it is an extension, else itself. No reference is added. Null
+  // for every other number.
+  virtual ZELBaseUnknown* GetImpl(int i_which = 0);
+  // 1 when both belong to the same object, else 0; 0 for null.
+  int IsEqual(const ZELBaseUnknown* i_pOther) const;
+
+  // The name of the object's class, its record, and whether it is a kind of another class (1 or 0; 0 for null).
+  virtual const char* IsA() const;
+  virtual ZELMetaClass* GetMetaObject() const;
+  virtual int IsAKindOf(const char* i_pName) const;
+  int IsAKindOf(const ZELMetaClass* i_pClass) const { return GetMetaObject()->IsAKindOf(i_pClass); }
+
+  // The same for a class, without an object. CreateItself makes one, and answers null unless the class is creatable.
+  static const char* ClassName();
+  static const ZELClassId& ClassId();
+  static ZELMetaClass* MetaObject();
+  static ZELBaseUnknown* CreateItself();
+
+private:
+  int AddRefOwner();
+  int ReleaseOwner();
+  void Destroy();
+
+  ZELAtomicCounter _count{1};
+  bool _isExtension = false;
+};
+
+// For the macros below: what must hold for a class to have a record. Answers true, or does not compile.
+template <class Class, class Base>
+constexpr bool ZELCheckClass_()
+{
+  static_assert(std::is_base_of_v<Base, Class>, "the class does not derive from the base that is named for it");
+  static_assert(std::is_same_v<decltype(&Base::GetMetaObject), ZELMetaClass* (Base::*)() const>,
+                "the base of the class is not declared with ZELDeclareClass");
+  static_assert(std::is_convertible_v<Class*, ZELBaseUnknown*>,
+                "the class derives from ZELBaseUnknown twice: offer the second interface by an extension");
+  return true;
+}
+
+// The record is a constant that needs no initialiser, so that it is there before main() begins and after it has ended.
+#define ZELImplementRecord_(Record, Class, Module, Id, BaseRecord, Create)                                                                 \
+  namespace                                                                                                                                \
+  {                                                                                                                                        \
+  ZELMetaClass Record(                                                                                                                     \
+      #Class, #Module, Id, BaseRecord, [](ZELBaseUnknown* i_pObject) -> void* { return static_cast<Class*>(i_pObject); },                  \
+      []() -> ZELBaseUnknown* { return Class::CreateItself(); });                                                                          \
+  __attribute__((init_priority(101))) ZELMetaClassRegistrar Record##Registrar(Record);                                                     \
+  }                                                                                                                                        \
+  const char* Class::ClassName()                                                                                                           \
+  {                                                                                                                                        \
+    return #Class;                                                                                                                         \
+  }                                                                                                                                        \
+  const ZELClassId& Class::ClassId()                                                                                                       \
+  {                                                                                                                                        \
+    return Record.GetClassId();                                                                                                            \
+  }                                                                                                                                        \
+  ZELMetaClass* Class::MetaObject()                                                                                                        \
+  {                                                                                                                                        \
+    return &Record;                                                                                                                        \
+  }                                                                                                                                        \
+  ZELMetaClass* Class::GetMetaObject() const                                                                                               \
+  {                                                                                                                                        \
+    return &Record;                                                                                                                        \
+  }                                                                                                                                        \
+  ZELBaseUnknown* Class::CreateItself()                                                                                                    \
+  {                                                                                                                                        \
+    return Create;                                                                                                                         \
+  }
+#define ZELImplementDerived_(Line, Class, Base, Module, Id, Create)                                                                        \
+  static_assert(ZELCheckClass_<Class, Base>());                                                                                            \
+  ZELImplementNamed_(                                                                                                                      \
+      Line, Class, Module, Id, []() -> ZELMetaClass* { return Base::MetaObject(); }, Create)
+#define ZELImplementNamed_(Line, Class, Module, Id, BaseRecord, Create)                                                                    \
+  ZELImplementRecord_(ZELRecordOfLine##Line, Class, Module, Id, BaseRecord, Create)
+
+// In one source of the class's library, Module being its name without quotes: the class is never made by its name,
+#define ZELImplementClass(Class, Base, Module) ZELImplementAtLine_(Class, Base, Module, ZELClassId::FromName(#Class), nullptr)
+// or it is, with its default constructor,
+#define ZELImplementCreatableClass(Class, Base, Module) ZELImplementAtLine_(Class, Base, Module, ZELClassId::FromName(#Class), new Class)
+// or it is an interface, with the id that names it (a ZELIID that is no null id).
+#define ZELImplementInterface(Class, Base, Module, Id)                                                                                     \
+  static_assert(!(Id).IsNull(), "the id of the interface is no id");                                                                       \
+  ZELImplementAtLine_(Class, Base, Module, Id, nullptr)
+#define ZELImplementAtLine_(Class, Base, Module, Id, Create) ZELImplementAtLine2_(__LINE__, Class, Base, Module, Id, Create)
+#define ZELImplementAtLine2_(Line, Class, Base, Module, Id, Create) ZELImplementDerived_(Line, Class, Base, Module, Id, Create)
+
+#endif
