@@ -1,0 +1,7 @@
+#include "ZELSYPEventHandler.h"
+
+#include "ZELMetaClass.h"
+
+ZELImplementClass(ZELSYPEventHandler, ZELBaseUnknown, OPXCoreTools)
+
+ZELSYPEventHandler::~ZELSYPEventHandler() = default;

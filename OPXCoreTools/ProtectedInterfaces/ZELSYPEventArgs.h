@@ -1,0 +1,41 @@
+// ZELSYPEventArgs: what travels with one raised event: the event, where it started, whether someone consumed it.
+// ZELSYPEventArgs args(Door::OpenedEvent()); pDoor->Dispatch(&args); if (args.IsConsumed()) ...
+//
+// Derive from it to carry more. The raiser owns it, on the stack or on the heap. One thread, that of the user interface.
+#ifndef ZELSYPEventArgs_H
+#define ZELSYPEventArgs_H
+
+#include "OPXCoreToolsExport.h"
+#include "ZELBaseUnknown.h"
+#include "ZELSYPEvent.h"
+
+#include <cstdint>
+
+class OPXCORETOOLS_EXPORT ZELSYPEventArgs : public ZELBaseUnknown
+{
+  ZELDeclareClass;
+
+public:
+  // Holds a reference on the event. Null: "i_pEvent", and there is no event.
+  explicit ZELSYPEventArgs(ZELSYPEvent* i_pEvent);
+  ~ZELSYPEventArgs() override;
+
+  // Without a reference.
+  ZELSYPEvent* GetEvent() const noexcept { return _pEvent; }
+  // The node at which the event starts, without a reference; null until it is set.
+  ZELBaseUnknown* GetOrigin() const noexcept { return _pOrigin; }
+  // Sets the origin and holds a reference on it, once: null reports "i_pOrigin", a second origin "_pOrigin == NULL" with
+  // "Origin has already been set"; neither changes anything.
+  void SetOrigin(ZELBaseUnknown* i_pOrigin);
+
+  // From now on only the handlers run that handle consumed events, too. There is no way back.
+  void Consume() noexcept { _consumed = 1; }
+  int IsConsumed() const noexcept { return _consumed; }
+
+private:
+  ZELSYPEvent* const _pEvent;
+  ZELBaseUnknown* _pOrigin = nullptr;
+  std::int32_t _consumed = 0;
+};
+
+#endif
