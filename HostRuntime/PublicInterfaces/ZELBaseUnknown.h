@@ -68,12 +68,17 @@ public:
   static ZELBaseUnknown* CreateItself();
 
 private:
+  friend class ZELExtensionTable;
   int AddRefOwner();
   int ReleaseOwner();
   void Destroy();
+  void DestroyExtensions();
+  int Offers(const ZELIID& i_id, void** o_ppFound);
+  int OffersByClass(const ZELIID& i_id, void** o_ppFound);
 
   ZELAtomicCounter _count{1};
   bool _isExtension = false;
+  std::atomic<bool> _hasExtensions{false};
 };
 
 // For the macros below: what must hold for a class to have a record. Answers true, or does not compile.

@@ -1,5 +1,7 @@
 #include "ZELBaseUnknown.h"
 
+#include "ZELExtension.h"
+
 ZELImplementRecord_(ZELRecordOfRoot, ZELBaseUnknown, OPXHostRuntime, ZELClassId::FromName("ZELBaseUnknown"), nullptr, nullptr)
 
     namespace
@@ -8,7 +10,10 @@ ZELImplementRecord_(ZELRecordOfRoot, ZELBaseUnknown, OPXHostRuntime, ZELClassId:
   constexpr int CountOfTheDying = 1 << 30;
 }
 
-ZELBaseUnknown::~ZELBaseUnknown() = default;
+ZELBaseUnknown::~ZELBaseUnknown()
+{
+  DestroyExtensions();
+}
 
 int ZELBaseUnknown::AddRefOwner()
 {
@@ -23,7 +28,16 @@ int ZELBaseUnknown::ReleaseOwner()
 void ZELBaseUnknown::Destroy()
 {
   _count.Set(CountOfTheDying);
+  DestroyExtensions();
   delete this;
+}
+
+void ZELBaseUnknown::DestroyExtensions()
+{
+  if (!_hasExtensions.load(std::memory_order_acquire))
+    return;
+  while (ZELBaseUnknown* const pExtension = ZELExtensionTable::TakeLast(*this))
+    delete pExtension;
 }
 
 int ZELBaseUnknown::QueryInterface(const ZELIID& i_id, void** o_ppFound)
@@ -31,14 +45,27 @@ int ZELBaseUnknown::QueryInterface(const ZELIID& i_id, void** o_ppFound)
   if (!o_ppFound)
     return 0;
   *o_ppFound = nullptr;
+  if (!GetImpl(0)->Offers(i_id, o_ppFound))
+    return 0;
+  AddRef();
+  return 1;
+}
+
+int ZELBaseUnknown::Offers(const ZELIID& i_id, void** o_ppFound)
+{
+  if (OffersByClass(i_id, o_ppFound))
+    return 1;
+  return _hasExtensions.load(std::memory_order_acquire) && ZELExtensionTable::Offers(*this, i_id, o_ppFound);
+}
+
+int ZELBaseUnknown::OffersByClass(const ZELIID& i_id, void** o_ppFound)
+{
   const ZELMetaClass* pClass = GetMetaObject();
   while (pClass && pClass->GetClassId() != i_id)
     pClass = pClass->GetBaseClass();
-  if (!pClass)
-    return 0;
-  *o_ppFound = pClass->Cast(this);
-  AddRef();
-  return 1;
+  if (pClass)
+    *o_ppFound = pClass->Cast(this);
+  return pClass != nullptr;
 }
 
 ZELBaseUnknown* ZELBaseUnknown::GetImpl(int i_which)

@@ -1,5 +1,7 @@
 #include "ZELMetaClass.h"
 
+#include "LoadedLibrary.h"
+
 #include <cstdio>
 #include <cstring>
 #include <map>
@@ -87,6 +89,7 @@ void ZELMetaClass::Register()
 
 ZELMetaClassRegistrar::ZELMetaClassRegistrar(ZELMetaClass& io_record)
 {
+  LoadedLibrary::KeepWhatHolds(&io_record);
   io_record.EnsureLinked();
   io_record.Register();
 }

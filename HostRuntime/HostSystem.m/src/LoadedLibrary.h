@@ -16,6 +16,9 @@ public:
   // Null when the library or the entry is missing.
   ZELFunctionAddress Find(const char* i_function) const;
 
+  // The library or program that holds i_address stays loaded until the process ends.
+  static void KeepWhatHolds(const void* i_address);
+
   // The system's own words for the last thing that failed on this thread.
   static std::string GetLastFailure();
 

@@ -13,6 +13,13 @@ ZELFunctionAddress LoadedLibrary::Find(const char* i_function) const
   return _handle ? reinterpret_cast<ZELFunctionAddress>(dlsym(_handle, i_function)) : nullptr;
 }
 
+void LoadedLibrary::KeepWhatHolds(const void* i_address)
+{
+  Dl_info holder;
+  if (dladdr(i_address, &holder))
+    dlopen(holder.dli_fname, RTLD_LAZY | RTLD_NOLOAD | RTLD_NODELETE);
+}
+
 std::string LoadedLibrary::GetLastFailure()
 {
   const char* failure = dlerror();

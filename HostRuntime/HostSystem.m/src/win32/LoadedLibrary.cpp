@@ -16,6 +16,12 @@ ZELFunctionAddress LoadedLibrary::Find(const char* i_function) const
   return reinterpret_cast<ZELFunctionAddress>(reinterpret_cast<void*>(GetProcAddress(static_cast<HMODULE>(_handle), i_function)));
 }
 
+void LoadedLibrary::KeepWhatHolds(const void* i_address)
+{
+  HMODULE holder;
+  GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN, static_cast<const char*>(i_address), &holder);
+}
+
 std::string LoadedLibrary::GetLastFailure()
 {
   return "error " + std::to_string(GetLastError());
