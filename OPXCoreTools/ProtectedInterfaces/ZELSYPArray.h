@@ -2,7 +2,8 @@
 // ZELSYPArray<Node*> nodes; nodes.Append(pNode); for (Node* pEach : nodes) ...
 //
 // Appending doubles the room: capacities run 1, 4, 10, 22, 46, ... The room never shrinks by itself. A copy is deep. One
-// thread at a time. Nothing throws but T's own operations. Elements that only travel are moved, not copied.
+// thread at a time. Nothing throws but T's own operations. Elements that only travel are moved, not copied, and a move
+// must not throw.
 #ifndef ZELSYPArray_H
 #define ZELSYPArray_H
 
@@ -12,14 +13,16 @@
 #include <climits>
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <memory>
 #include <new>
+#include <type_traits>
 #include <utility>
 
 template <class T>
 class ZELSYPArray
 {
-  static_assert(alignof(T) <= __STDCPP_DEFAULT_NEW_ALIGNMENT__, "the block is aligned as new aligns by itself");
+  static_assert(alignof(T) <= alignof(std::max_align_t), "the block is aligned as the heap aligns by itself");
 
 public:
   ZELSYPArray() = default;
@@ -57,12 +60,14 @@ public:
 
 private:
   bool HasElement(int i_index) const;
+  int AppendInRoom(const T& i_element);
   int AppendGrowing(T i_element);
   void GrowForOneMore();
   void MoveToNewBlock();
   void CopyFrom(const ZELSYPArray& i_other);
   void FreeBlock();
-  static T* NewBlock(int i_capacity) noexcept;
+  static T* MovedToNewBlock(T* io_block, int i_length, int i_capacity);
+  static void MoveElements(T* io_block, int i_length, T* o_newBlock) noexcept;
 
   T _spare{};
   T* _data = nullptr;
@@ -88,6 +93,12 @@ inline int ZELSYPArray<T>::Append(const T& i_element)
 {
   if (__builtin_expect(_length >= _room, false))
     return AppendGrowing(i_element);
+  return AppendInRoom(i_element);
+}
+
+template <class T>
+inline int ZELSYPArray<T>::AppendInRoom(const T& i_element)
+{
   ::new (static_cast<void*>(_data + _length)) T(i_element);
   ++_length;
   return 1;
@@ -95,19 +106,18 @@ inline int ZELSYPArray<T>::Append(const T& i_element)
 
 // By value: what is appended may stand in the block that growth replaces.
 template <class T>
-__attribute__((noinline)) int ZELSYPArray<T>::AppendGrowing(T i_element)
+inline int ZELSYPArray<T>::AppendGrowing(T i_element)
 {
   GrowForOneMore();
-  return _length < _room ? Append(i_element) : 0;
+  return _length < _room ? AppendInRoom(i_element) : 0;
 }
 
 template <class T>
-void ZELSYPArray<T>::GrowForOneMore()
+inline void ZELSYPArray<T>::GrowForOneMore()
 {
-  if (_length < _capacity)
-    MoveToNewBlock();
-  else
-    SetCapacity(_length == 0 ? 1 : static_cast<int>(std::min<long long>(2 * (_length + 1LL), INT_MAX)));
+  if (_length >= _capacity)
+    _capacity = _length == 0 ? 1 : _length < INT_MAX / 2 ? 2 * (_length + 1) : INT_MAX;
+  MoveToNewBlock();
 }
 
 template <class T>
@@ -121,19 +131,28 @@ void ZELSYPArray<T>::SetCapacity(int i_capacity)
 }
 
 template <class T>
-void ZELSYPArray<T>::MoveToNewBlock()
+inline void ZELSYPArray<T>::MoveToNewBlock()
 {
-  T* const plNewArray = NewBlock(_capacity);
+  T* const plNewArray = MovedToNewBlock(_data, _length, _capacity);
   if (!ZELSYP_CHECK_POINTER(plNewArray))
   {
-    _room = std::min(_room, _capacity);
+    _room = _capacity < _room ? _capacity : _room;
     return;
   }
-  std::uninitialized_move(begin(), end(), plNewArray);
-  std::destroy(begin(), end());
-  ::operator delete(_data);
   _data = plNewArray;
   _room = _capacity;
+}
+
+// One by one: each is destroyed while it is at hand. A move that throws would leave them in two places.
+template <class T>
+void ZELSYPArray<T>::MoveElements(T* io_block, int i_length, T* o_newBlock) noexcept
+{
+  for (int index = 0; index < i_length; ++index)
+  {
+    ::new (static_cast<void*>(o_newBlock + index)) T(std::move(io_block[index]));
+    io_block[index].~T();
+  }
+  std::free(static_cast<void*>(io_block));
 }
 
 template <class T>
@@ -177,18 +196,27 @@ template <class T>
 void ZELSYPArray<T>::FreeBlock()
 {
   RemoveAll();
-  ::operator delete(_data);
+  std::free(static_cast<void*>(_data));
   _data = nullptr;
   _room = 0;
 }
 
-// A size that overflows asks for the largest block there is, so that the allocation fails.
+// A block with room for i_capacity elements in place of i_block, and the elements in it; null: no memory, and i_block
+// stands as it was. Elements that travel as bytes may find themselves where they were: the heap extends a block when it
+// can. A size that overflows asks for the largest block there is, so that the allocation fails.
+//
+// Static, and never inlined: an array whose address nobody takes stays in registers while a loop appends to it.
 template <class T>
-T* ZELSYPArray<T>::NewBlock(int i_capacity) noexcept
+__attribute__((noinline)) T* ZELSYPArray<T>::MovedToNewBlock(T* io_block, int i_length, int i_capacity)
 {
   const std::size_t count = static_cast<std::size_t>(i_capacity);
   const std::size_t bytes = count > SIZE_MAX / sizeof(T) ? SIZE_MAX : count * sizeof(T);
-  return static_cast<T*>(::operator new(bytes, std::nothrow));
+  if constexpr (std::is_trivially_copyable_v<T>)
+    return static_cast<T*>(std::realloc(static_cast<void*>(io_block), bytes));
+  T* const newBlock = static_cast<T*>(std::malloc(bytes));
+  if (newBlock)
+    MoveElements(io_block, i_length, newBlock);
+  return newBlock;
 }
 
 #endif
