@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
+#include <string_view>
 
 namespace
 {
@@ -20,10 +21,14 @@ std::string MakeIndent(std::size_t i_level)
 }
 
 // Every byte of a character but its first one is a continuation.
+bool IsFirstByte(char i_character)
+{
+  return (static_cast<unsigned char>(i_character) & 0xC0) != 0x80;
+}
+
 std::size_t CountCharacters(const std::string& i_text)
 {
-  const auto isFirst = [](char i_character) { return (static_cast<unsigned char>(i_character) & 0xC0) != 0x80; };
-  return static_cast<std::size_t>(std::count_if(i_text.begin(), i_text.end(), isFirst));
+  return static_cast<std::size_t>(std::count_if(i_text.begin(), i_text.end(), IsFirstByte));
 }
 
 std::string Pad(std::string i_text)
@@ -32,12 +37,37 @@ std::string Pad(std::string i_text)
   return i_text;
 }
 
-// A name may hold anything, a terminal's commands included.
-std::string MakePrintable(std::string i_name)
+// How many bytes the first character takes.
+std::size_t GetCharacterSize(std::string_view i_text)
 {
-  const auto isControl = [](char i_character) { return static_cast<unsigned char>(i_character) < 0x20 || i_character == 0x7F; };
-  std::replace_if(i_name.begin(), i_name.end(), isControl, '?');
-  return i_name;
+  std::size_t size = 1;
+  while (size < i_text.size() && !IsFirstByte(i_text[size]))
+    ++size;
+  return size;
+}
+
+// The controls of ASCII and of Latin-1, and those that change the direction in which a line is written (ALM, LRM and RLM,
+// embeddings and overrides, isolates).
+bool IsControl(std::string_view i_character)
+{
+  const auto isBetween = [i_character](std::string_view i_first, std::string_view i_last)
+  { return i_character.size() == i_first.size() && i_character >= i_first && i_character <= i_last; };
+  return isBetween(std::string_view("\0", 1), "\x1F") || i_character == "\x7F" || isBetween("\xC2\x80", "\xC2\x9F") ||
+         i_character == "\xD8\x9C" || isBetween("\xE2\x80\x8E", "\xE2\x80\x8F") || isBetween("\xE2\x80\xAA", "\xE2\x80\xAE") ||
+         isBetween("\xE2\x81\xA6", "\xE2\x81\xA9");
+}
+
+// A name may hold anything, a terminal's commands included. i_name: UTF-8.
+std::string MakePrintable(std::string_view i_name)
+{
+  std::string printable;
+  while (!i_name.empty())
+  {
+    const std::string_view character = i_name.substr(0, GetCharacterSize(i_name));
+    printable += IsControl(character) ? "?" : character;
+    i_name.remove_prefix(character.size());
+  }
+  return printable;
 }
 
 std::string MakeSize(std::uint64_t i_bytes)
@@ -66,7 +96,7 @@ std::string MakeLine(const nlohmann::json& i_row, std::size_t i_level)
 {
   const std::string kind = i_row["kind"];
   const std::string mark = kind == "directory" ? "/" : kind == "link" ? "@" : "";
-  const std::string name = Pad(MakeIndent(i_level) + MakePrintable(i_row["name"]) + mark);
+  const std::string name = Pad(MakeIndent(i_level) + MakePrintable(i_row["name"].get_ref<const std::string&>()) + mark);
   const std::string size = kind == "file" ? MakeSize(i_row.value("size", std::uint64_t{0})) : std::string(10, ' ');
   return name + size + "  " + MakeDate(i_row.value("modified", ""));
 }

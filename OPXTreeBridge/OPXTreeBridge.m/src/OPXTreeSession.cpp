@@ -5,6 +5,7 @@
 #include "OPXTreeMessageReader.h"
 #include "OPXTreeMethods.h"
 
+#include <cmath>
 #include <exception>
 #include <nlohmann/json.hpp>
 
@@ -16,15 +17,21 @@ void NeedRequest(bool i_holds, const char* i_reason)
     throw OPXTreeError(OPXTreeError::InvalidRequest, {{"reason", i_reason}});
 }
 
+// A whole number of more than 64 bits is read as a floating one and would come back rounded.
+bool IsExact(const nlohmann::json& i_number)
+{
+  return !i_number.is_number_float() || std::abs(i_number.get<double>()) < 0x1p63;
+}
+
 bool IsID(const nlohmann::json& i_value)
 {
-  return i_value.is_string() || i_value.is_number() || i_value.is_null();
+  return i_value.is_string() || i_value.is_null() || (i_value.is_number() && IsExact(i_value));
 }
 
 void CheckRequest(const nlohmann::json& i_request)
 {
   NeedRequest(i_request.is_object(), "a request is an object");
-  NeedRequest(!i_request.contains("id") || IsID(i_request["id"]), "\"id\" is a string, a number or null");
+  NeedRequest(!i_request.contains("id") || IsID(i_request["id"]), "\"id\" is a string, a number of at most 64 bits or null");
   NeedRequest(i_request.contains("jsonrpc") && i_request["jsonrpc"] == "2.0", "\"jsonrpc\" is \"2.0\"");
   NeedRequest(i_request.contains("method") && i_request["method"].is_string(), "\"method\" is a string");
   NeedRequest(!i_request.contains("params") || i_request["params"].is_structured(), "\"params\" is an object or an array");
