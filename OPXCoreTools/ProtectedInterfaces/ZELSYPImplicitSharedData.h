@@ -21,7 +21,13 @@ public:
   void Attach() noexcept { ++_refcount; }
   // Gives a reference back; the last one deletes the payload. Without a reference to give back: "_refcount>0", and
   // nothing is deleted.
-  void Detach();
+  void Detach()
+  {
+    if (__builtin_expect(_refcount > 1, true))
+      --_refcount;
+    else
+      DetachLast();
+  }
   // What the caller may write to in place of its reference: this payload when the caller holds its only reference, else
   // a clone, the caller's reference being given back. Without a reference: "_refcount>0", and this payload.
   ZELSYPImplicitSharedData* CloneIfShared();
@@ -35,6 +41,7 @@ protected:
   std::int32_t _refcount = 1;
 
 private:
+  void DetachLast();
   bool HasReference() const;
 };
 

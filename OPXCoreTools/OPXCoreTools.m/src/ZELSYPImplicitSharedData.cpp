@@ -4,7 +4,7 @@
 
 ZELSYPImplicitSharedData::~ZELSYPImplicitSharedData() = default;
 
-void ZELSYPImplicitSharedData::Detach()
+void ZELSYPImplicitSharedData::DetachLast()
 {
   if (HasReference() && --_refcount == 0)
     delete this;
