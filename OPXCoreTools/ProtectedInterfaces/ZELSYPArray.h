@@ -4,22 +4,24 @@
 // Appending doubles the room: capacities run 1, 4, 10, 22, 46, ... The room never shrinks by itself. A copy is deep. One
 // thread at a time. Nothing throws but T's own operations. Elements that only travel are moved, not copied, and a move
 // must not throw.
+//
+// Blocks is where the room comes from (ZELSYPHeapBlocks.h says what it must offer).
 #ifndef ZELSYPArray_H
 #define ZELSYPArray_H
 
 #include "ZELSYPCheck.h"
+#include "ZELSYPHeapBlocks.h"
 
 #include <algorithm>
 #include <climits>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <memory>
 #include <new>
 #include <type_traits>
 #include <utility>
 
-template <class T>
+template <class T, class Blocks = ZELSYPHeapBlocks>
 class ZELSYPArray
 {
   static_assert(alignof(T) <= alignof(std::max_align_t), "the block is aligned as the heap aligns by itself");
@@ -35,7 +37,8 @@ public:
 
   // 1: a copy of the element, which may stand in this array, is the last one now. 0: no memory, "plNewArray"; the array
   // is as it was.
-  int Append(const T& i_element);
+  int Append(const T& i_element) { return AppendFrom(i_element); }
+  int Append(T&& i_element) { return AppendFrom(std::move(i_element)); }
   // Makes room for i_capacity elements. Not above the length: "i_capacity > _length", and nothing changes. No memory:
   // "plNewArray", and the elements stay where they are. The capacity of now: nothing happens.
   void SetCapacity(int i_capacity);
@@ -60,7 +63,10 @@ public:
 
 private:
   bool HasElement(int i_index) const;
-  int AppendInRoom(const T& i_element);
+  template <class From>
+  int AppendFrom(From&& i_element);
+  template <class From>
+  int AppendInRoom(From&& i_element);
   int AppendGrowing(T i_element);
   void GrowForOneMore();
   void MoveToNewBlock();
@@ -77,8 +83,8 @@ private:
   std::int32_t _room = 0;
 };
 
-template <class T>
-ZELSYPArray<T>& ZELSYPArray<T>::operator=(const ZELSYPArray& i_other)
+template <class T, class Blocks>
+ZELSYPArray<T, Blocks>& ZELSYPArray<T, Blocks>::operator=(const ZELSYPArray& i_other)
 {
   if (this != &i_other)
   {
@@ -88,40 +94,42 @@ ZELSYPArray<T>& ZELSYPArray<T>::operator=(const ZELSYPArray& i_other)
   return *this;
 }
 
-template <class T>
-inline int ZELSYPArray<T>::Append(const T& i_element)
+template <class T, class Blocks>
+template <class From>
+inline int ZELSYPArray<T, Blocks>::AppendFrom(From&& i_element)
 {
   if (__builtin_expect(_length >= _room, false))
-    return AppendGrowing(i_element);
-  return AppendInRoom(i_element);
+    return AppendGrowing(std::forward<From>(i_element));
+  return AppendInRoom(std::forward<From>(i_element));
 }
 
-template <class T>
-inline int ZELSYPArray<T>::AppendInRoom(const T& i_element)
+template <class T, class Blocks>
+template <class From>
+inline int ZELSYPArray<T, Blocks>::AppendInRoom(From&& i_element)
 {
-  ::new (static_cast<void*>(_data + _length)) T(i_element);
+  ::new (static_cast<void*>(_data + _length)) T(std::forward<From>(i_element));
   ++_length;
   return 1;
 }
 
 // By value: what is appended may stand in the block that growth replaces.
-template <class T>
-inline int ZELSYPArray<T>::AppendGrowing(T i_element)
+template <class T, class Blocks>
+inline int ZELSYPArray<T, Blocks>::AppendGrowing(T i_element)
 {
   GrowForOneMore();
-  return _length < _room ? AppendInRoom(i_element) : 0;
+  return _length < _room ? AppendInRoom(std::move(i_element)) : 0;
 }
 
-template <class T>
-inline void ZELSYPArray<T>::GrowForOneMore()
+template <class T, class Blocks>
+inline void ZELSYPArray<T, Blocks>::GrowForOneMore()
 {
   if (_length >= _capacity)
     _capacity = _length == 0 ? 1 : _length < INT_MAX / 2 ? 2 * (_length + 1) : INT_MAX;
   MoveToNewBlock();
 }
 
-template <class T>
-void ZELSYPArray<T>::SetCapacity(int i_capacity)
+template <class T, class Blocks>
+void ZELSYPArray<T, Blocks>::SetCapacity(int i_capacity)
 {
   if (i_capacity == _capacity || !ZELSYP_CHECK_TRUE(i_capacity > _length))
     return;
@@ -130,8 +138,8 @@ void ZELSYPArray<T>::SetCapacity(int i_capacity)
   MoveToNewBlock();
 }
 
-template <class T>
-inline void ZELSYPArray<T>::MoveToNewBlock()
+template <class T, class Blocks>
+inline void ZELSYPArray<T, Blocks>::MoveToNewBlock()
 {
   T* const plNewArray = MovedToNewBlock(_data, _length, _capacity);
   if (!ZELSYP_CHECK_POINTER(plNewArray))
@@ -144,19 +152,19 @@ inline void ZELSYPArray<T>::MoveToNewBlock()
 }
 
 // One by one: each is destroyed while it is at hand. A move that throws would leave them in two places.
-template <class T>
-void ZELSYPArray<T>::MoveElements(T* io_block, int i_length, T* o_newBlock) noexcept
+template <class T, class Blocks>
+void ZELSYPArray<T, Blocks>::MoveElements(T* io_block, int i_length, T* o_newBlock) noexcept
 {
   for (int index = 0; index < i_length; ++index)
   {
     ::new (static_cast<void*>(o_newBlock + index)) T(std::move(io_block[index]));
     io_block[index].~T();
   }
-  std::free(static_cast<void*>(io_block));
+  Blocks::GiveBack(io_block);
 }
 
-template <class T>
-T ZELSYPArray<T>::RemoveAt(int i_index)
+template <class T, class Blocks>
+T ZELSYPArray<T, Blocks>::RemoveAt(int i_index)
 {
   if (!ZELSYP_CHECK_REPORT(i_index >= 0 && i_index < _length, Check_TRUE_Failed__, "(i_index >=0 && i_index < _length)", __LINE__, nullptr))
     return T();
@@ -166,21 +174,21 @@ T ZELSYPArray<T>::RemoveAt(int i_index)
   return element;
 }
 
-template <class T>
-void ZELSYPArray<T>::RemoveAll()
+template <class T, class Blocks>
+void ZELSYPArray<T, Blocks>::RemoveAll()
 {
   std::destroy(begin(), end());
   _length = 0;
 }
 
-template <class T>
-inline bool ZELSYPArray<T>::HasElement(int i_index) const
+template <class T, class Blocks>
+inline bool ZELSYPArray<T, Blocks>::HasElement(int i_index) const
 {
   return ZELSYP_CHECK_REPORT(i_index >= 0 && i_index < _length, Check_TRUE_Failed__, "(i_index>=0 && i_index<_length)", __LINE__, nullptr);
 }
 
-template <class T>
-void ZELSYPArray<T>::CopyFrom(const ZELSYPArray& i_other)
+template <class T, class Blocks>
+void ZELSYPArray<T, Blocks>::CopyFrom(const ZELSYPArray& i_other)
 {
   _capacity = i_other._capacity;
   if (_capacity == 0)
@@ -192,11 +200,11 @@ void ZELSYPArray<T>::CopyFrom(const ZELSYPArray& i_other)
   _length = i_other._length;
 }
 
-template <class T>
-void ZELSYPArray<T>::FreeBlock()
+template <class T, class Blocks>
+void ZELSYPArray<T, Blocks>::FreeBlock()
 {
   RemoveAll();
-  std::free(static_cast<void*>(_data));
+  Blocks::GiveBack(_data);
   _data = nullptr;
   _room = 0;
 }
@@ -206,14 +214,14 @@ void ZELSYPArray<T>::FreeBlock()
 // can. A size that overflows asks for the largest block there is, so that the allocation fails.
 //
 // Static, and never inlined: an array whose address nobody takes stays in registers while a loop appends to it.
-template <class T>
-__attribute__((noinline)) T* ZELSYPArray<T>::MovedToNewBlock(T* io_block, int i_length, int i_capacity)
+template <class T, class Blocks>
+__attribute__((noinline)) T* ZELSYPArray<T, Blocks>::MovedToNewBlock(T* io_block, int i_length, int i_capacity)
 {
   const std::size_t count = static_cast<std::size_t>(i_capacity);
   const std::size_t bytes = count > SIZE_MAX / sizeof(T) ? SIZE_MAX : count * sizeof(T);
   if constexpr (std::is_trivially_copyable_v<T>)
-    return static_cast<T*>(std::realloc(static_cast<void*>(io_block), bytes));
-  T* const newBlock = static_cast<T*>(std::malloc(bytes));
+    return static_cast<T*>(Blocks::Extend(io_block, static_cast<std::size_t>(i_length) * sizeof(T), bytes));
+  T* const newBlock = static_cast<T*>(Blocks::Take(bytes));
   if (newBlock)
     MoveElements(io_block, i_length, newBlock);
   return newBlock;
