@@ -1,0 +1,67 @@
+#include "ZELSYPClassEventHandlersSupport.h"
+
+#include "ZELSYPArray.h"
+#include "ZELSYPCheck.h"
+#include "ZELSYPEventHandlersSupport.h"
+
+#include <memory>
+
+ZELSYPClassEventHandlersSupport::ZELSYPClassEventHandlersSupport() = default;
+
+ZELSYPClassEventHandlersSupport::~ZELSYPClassEventHandlersSupport()
+{
+  Clear();
+}
+
+int ZELSYPClassEventHandlersSupport::AddClassHandler(ZELMetaClass* i_pClass, ZELSYPEvent* i_pEvent, ZELSYPEventHandler* i_pHandler,
+                                                     int i_handleConsumedEvents)
+{
+  if (!ZELSYP_CHECK_POINTER(i_pClass) || !ZELSYP_CHECK_POINTER(i_pEvent) || !ZELSYP_CHECK_POINTER(i_pHandler))
+    return 0;
+  ZELSYPEventHandlersSupport* const pSupport = FindOrAddSupport(i_pClass);
+  return ZELSYP_CHECK_POINTER(pSupport) ? pSupport->AddHandler(i_pEvent, i_pHandler, i_handleConsumedEvents) : 0;
+}
+
+int ZELSYPClassEventHandlersSupport::RemoveClassHandler(ZELMetaClass* i_pClass, ZELSYPEvent* i_pEvent, ZELSYPEventHandler* i_pHandler)
+{
+  if (!ZELSYP_CHECK_POINTER(i_pClass) || !ZELSYP_CHECK_POINTER(i_pEvent) || !ZELSYP_CHECK_POINTER(i_pHandler))
+    return 0;
+  ZELSYPEventHandlersSupport* const pSupport = GetClassHandlersSupport(i_pClass);
+  return pSupport ? pSupport->RemoveHandler(i_pEvent, i_pHandler) : 0;
+}
+
+ZELSYPEventHandlersSupport* ZELSYPClassEventHandlersSupport::GetClassHandlersSupport(ZELMetaClass* i_pClass)
+{
+  if (!ZELSYP_CHECK_POINTER(i_pClass))
+    return nullptr;
+  ZELSYPEventHandlersSupport* const* const pEntry = _supports.Locate(i_pClass);
+  if (!pEntry)
+    return nullptr;
+  ZELSYPEventHandlersSupport* const pSupport = *pEntry;
+  return ZELSYP_CHECK_POINTER(pSupport) ? pSupport : nullptr;
+}
+
+// Null for an entry without a store, or when there is no memory for a new one.
+ZELSYPEventHandlersSupport* ZELSYPClassEventHandlersSupport::FindOrAddSupport(ZELMetaClass* i_pClass)
+{
+  if (ZELSYPEventHandlersSupport* const* const pEntry = _supports.Locate(i_pClass))
+    return *pEntry;
+  std::unique_ptr<ZELSYPEventHandlersSupport> pSupport = std::make_unique<ZELSYPEventHandlersSupport>();
+  return _supports.Set(i_pClass, pSupport.get()) == 1 ? pSupport.release() : nullptr;
+}
+
+// The stores go last: a handler that dies with its store may call back, and finds nothing here any more.
+void ZELSYPClassEventHandlersSupport::Clear()
+{
+  ZELSYPArray<ZELSYPEventHandlersSupport*> supports;
+  for (SupportsByClass::Iterator it(_supports); !it.IsDone(); it.Next())
+  {
+    SupportsByClass::Pair* const pEntry = it.CurrentItem();
+    if (ZELSYP_CHECK_POINTER(pEntry) && ZELSYP_CHECK_REPORT(pEntry->_value, Check_Pointer_Failed__, "pEntry->value", __LINE__, nullptr))
+      supports.Append(pEntry->_value);
+  }
+  _supports.RemoveAll();
+  for (ZELSYPEventHandlersSupport* const pSupport : supports)
+    delete pSupport;
+  ZELSYP_CHECK_TRUE(_supports.GetSize() == 0);
+}

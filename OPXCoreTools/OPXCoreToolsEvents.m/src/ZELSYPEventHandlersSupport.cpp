@@ -1,0 +1,137 @@
+#include "ZELSYPEventHandlersSupport.h"
+
+#include "ZELMetaClass.h"
+#include "ZELSYPArray.h"
+#include "ZELSYPCheck.h"
+#include "ZELSYPEvent.h"
+#include "ZELSYPEventHandler.h"
+#include "ZELSYPEventHandlerInfo.h"
+
+#include <string>
+
+namespace
+{
+void ReportOtherArguments(const ZELMetaClass& i_handlerArguments, const ZELMetaClass& i_eventArguments)
+{
+  const std::string message = std::string("The handler expects argument of type ") + i_handlerArguments.GetName() +
+                              " but the event uses arguments of type " + i_eventArguments.GetName();
+  CheckFailure__(message.c_str(), __FILE_NAME__, __LINE__, nullptr);
+}
+
+bool AcceptsArguments(ZELSYPEventHandler& i_handler, const ZELSYPEvent& i_event)
+{
+  ZELMetaClass* const pHandlerArgumentsClass = i_handler.GetArgumentsClass();
+  if (!ZELSYP_CHECK_POINTER(pHandlerArgumentsClass))
+    return false;
+  ZELMetaClass* const pEventArgumentsClass = i_event.GetArgumentType();
+  if (!ZELSYP_CHECK_POINTER(pEventArgumentsClass))
+    return false;
+  if (pEventArgumentsClass->IsAKindOf(pHandlerArgumentsClass))
+    return true;
+  ReportOtherArguments(*pHandlerArgumentsClass, *pEventArgumentsClass);
+  return false;
+}
+} // namespace
+
+ZELSYPEventHandlersSupport::ZELSYPEventHandlersSupport() = default;
+
+ZELSYPEventHandlersSupport::~ZELSYPEventHandlersSupport()
+{
+  Clear();
+}
+
+int ZELSYPEventHandlersSupport::AddHandler(ZELSYPEvent* i_pEvent, ZELSYPEventHandler* i_pHandler, int i_handleConsumedEvents)
+{
+  if (!ZELSYP_CHECK_POINTER(i_pEvent) || !ZELSYP_CHECK_POINTER(i_pHandler) || !AcceptsArguments(*i_pHandler, *i_pEvent))
+    return 0;
+  ZELSYPEventHandlerInfoList* const pList = FindOrAddList(i_pEvent);
+  if (!ZELSYP_CHECK_POINTER(pList))
+    return 0;
+  pList->AddHandler(i_pHandler, i_handleConsumedEvents);
+  return 1;
+}
+
+int ZELSYPEventHandlersSupport::RemoveHandler(ZELSYPEvent* i_pEvent, ZELSYPEventHandler* i_pHandler)
+{
+  if (!ZELSYP_CHECK_POINTER(i_pEvent) || !ZELSYP_CHECK_POINTER(i_pHandler))
+    return 0;
+  ZELSYPEventHandlerInfoList* const pList = _eventHandlers.Locate(i_pEvent);
+  for (int index = 0; pList && index < pList->GetSize(); ++index)
+  {
+    ZELSYPEventHandlerInfo* const pInfo = pList->Get(index);
+    if (!ZELSYP_CHECK_POINTER(pInfo))
+      return 0;
+    if (pInfo->GetHandler() == i_pHandler)
+    {
+      pList->Remove(index);
+      return 1;
+    }
+  }
+  return 0;
+}
+
+ZELSYPEventHandlerInfoList ZELSYPEventHandlersSupport::GetHandlersList(ZELSYPEvent* i_pEvent)
+{
+  const ZELSYPEventHandlerInfoList* const pList = ZELSYP_CHECK_POINTER(i_pEvent) ? FindPrunedList(i_pEvent) : nullptr;
+  return pList ? *pList : ZELSYPEventHandlerInfoList();
+}
+
+void ZELSYPEventHandlersSupport::ReplaceHandlers(const ZELSYPEventHandlersSupport& i_support)
+{
+  if (this == &i_support)
+    return;
+  Clear();
+  ZELSYP_CHECK_TRUE(_eventHandlers.GetSize() == 0);
+  CopyFrom(i_support);
+  ZELSYP_CHECK_TRUE(_eventHandlers.GetSize() == i_support._eventHandlers.GetSize());
+}
+
+void ZELSYPEventHandlersSupport::CopyFrom(const ZELSYPEventHandlersSupport& i_support)
+{
+  for (ListsByEvent::Iterator it(i_support._eventHandlers); !it.IsDone(); it.Next())
+  {
+    ListsByEvent::Pair* const pEntry = it.CurrentItem();
+    if (!ZELSYP_CHECK_POINTER(pEntry) || !ZELSYP_CHECK_REPORT(pEntry->_key, Check_Pointer_Failed__, "pEntry->key", __LINE__, nullptr))
+      return;
+    StoreList(pEntry->_key, pEntry->_value);
+  }
+}
+
+ZELSYPEventHandlerInfoList* ZELSYPEventHandlersSupport::FindOrAddList(ZELSYPEvent* i_pEvent)
+{
+  if (ZELSYPEventHandlerInfoList* const pList = _eventHandlers.Locate(i_pEvent))
+    return pList;
+  StoreList(i_pEvent, ZELSYPEventHandlerInfoList());
+  return _eventHandlers.Locate(i_pEvent);
+}
+
+void ZELSYPEventHandlersSupport::StoreList(ZELSYPEvent* i_pEvent, const ZELSYPEventHandlerInfoList& i_list)
+{
+  if (_eventHandlers.Set(i_pEvent, i_list) == 1)
+    i_pEvent->AddRef();
+}
+
+ZELSYPEventHandlerInfoList* ZELSYPEventHandlersSupport::FindPrunedList(ZELSYPEvent* i_pEvent)
+{
+  ZELSYPEventHandlerInfoList* const pList = _eventHandlers.Locate(i_pEvent);
+  if (pList)
+    pList->AutoRemove();
+  return pList;
+}
+
+// The lists go last: a handler that dies with its list may call back, and finds nothing here any more.
+void ZELSYPEventHandlersSupport::Clear()
+{
+  ZELSYPArray<ZELSYPEventHandlerInfoList> lists;
+  for (ListsByEvent::Iterator it(_eventHandlers); !it.IsDone(); it.Next())
+  {
+    ListsByEvent::Pair* const pEntry = it.CurrentItem();
+    if (!ZELSYP_CHECK_POINTER(pEntry))
+      continue;
+    lists.Append(pEntry->_value);
+    if (ZELSYP_CHECK_REPORT(pEntry->_key, Check_Pointer_Failed__, "pEntry->key", __LINE__, nullptr))
+      pEntry->_key->Release();
+  }
+  _eventHandlers.RemoveAll();
+  ZELSYP_CHECK_TRUE(_eventHandlers.GetSize() == 0);
+}

@@ -1,0 +1,32 @@
+#include "ZELSYPEventPath.h"
+
+#include "ZELSYPCheck.h"
+
+ZELSYPEventPath::ZELSYPEventPath() = default;
+
+ZELSYPEventPath::~ZELSYPEventPath()
+{
+  for (ZELSYPEventPathElt* const pElt : _elements)
+    if (ZELSYP_CHECK_POINTER(pElt))
+      delete pElt;
+}
+
+void ZELSYPEventPath::AddElement(ZELSYPEventPathElt* i_pElem)
+{
+  if (ZELSYP_CHECK_POINTER(i_pElem) && !_elements.Append(i_pElem))
+    delete i_pElem;
+}
+
+// The length is read again each time: a handler may add a stop.
+void ZELSYPEventPath::Dispatch(ZELSYPEventArgs* i_pArgs)
+{
+  if (!ZELSYP_CHECK_POINTER(i_pArgs))
+    return;
+  for (int index = 0; index < _elements.GetLength(); ++index)
+  {
+    const ZELSYPEventPathElt* const pElt = _elements.begin()[index];
+    if (!ZELSYP_CHECK_POINTER(pElt))
+      return;
+    pElt->Dispatch(i_pArgs);
+  }
+}

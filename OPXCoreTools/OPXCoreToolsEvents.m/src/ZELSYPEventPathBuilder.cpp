@@ -1,0 +1,128 @@
+#include "ZELSYPEventPathBuilder.h"
+
+#include "ZELMetaClass.h"
+#include "ZELSYPCheck.h"
+#include "ZELSYPEvent.h"
+#include "ZELSYPEventArgs.h"
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace
+{
+// Room for the nodes of a usual route without growing.
+constexpr int UsualDepth = 30;
+
+bool HasOrigin(ZELBaseUnknown* i_pOrigin, ZELSYPEventArgs* i_pArgs)
+{
+  if (!i_pArgs->GetOrigin())
+    i_pArgs->SetOrigin(i_pOrigin);
+  return ZELSYP_CHECK_TRUE_DETAILS(i_pOrigin->IsEqual(i_pArgs->GetOrigin()), "The origin of the event is incorrect");
+}
+
+void ReportOtherArguments(const ZELMetaClass& i_eventArguments, const ZELMetaClass& i_arguments)
+{
+  const std::string message = std::string("The event expects argument of type ") + i_eventArguments.GetName() +
+                              " but the dispatch arguments are of type " + i_arguments.GetName();
+  CheckFailure__(message.c_str(), __FILE_NAME__, __LINE__, nullptr);
+}
+
+bool HasExpectedClass(const ZELSYPEventArgs& i_args)
+{
+  const ZELSYPEvent* const pEvent = i_args.GetEvent();
+  if (!ZELSYP_CHECK_POINTER(pEvent))
+    return false;
+  const ZELMetaClass* const pEventArgumentType = pEvent->GetArgumentType();
+  const ZELMetaClass* const pArgsType = i_args.GetMetaObject();
+  if (!ZELSYP_CHECK_POINTER(pEventArgumentType) || !ZELSYP_CHECK_POINTER(pArgsType))
+    return false;
+  if (pArgsType == pEventArgumentType || pArgsType->IsAKindOf(pEventArgumentType))
+    return true;
+  ReportOtherArguments(*pEventArgumentType, *pArgsType);
+  return false;
+}
+
+bool IsKnown(ZELSYPEvent::Propagation i_propagation)
+{
+  const bool known = i_propagation == ZELSYPEvent::RootToOrigin || i_propagation == ZELSYPEvent::OriginToRoot;
+  if (!known)
+    CheckFailure__("Unknown propagation mode", __FILE_NAME__, __LINE__, ZELSYPEvent::PropagationToString(i_propagation));
+  return known;
+}
+} // namespace
+
+ZELSYPEventPathBuilder::~ZELSYPEventPathBuilder() = default;
+
+int ZELSYPEventPathBuilder::Dispatch(ZELBaseUnknown* i_pOrigin, ZELSYPEventArgs* i_pArgs)
+{
+  if (!ZELSYP_CHECK_POINTER(i_pOrigin) || !ZELSYP_CHECK_POINTER(i_pArgs) || !HasOrigin(i_pOrigin, i_pArgs))
+    return 0;
+  const std::unique_ptr<ZELSYPEventPath> pPath(BuildPath(i_pArgs));
+  if (!ZELSYP_CHECK_POINTER(pPath))
+    return 0;
+  pPath->Dispatch(i_pArgs);
+  return 1;
+}
+
+ZELSYPEventPath* ZELSYPEventPathBuilder::BuildPath(ZELSYPEventArgs* i_pArgs)
+{
+  if (!ZELSYP_CHECK_POINTER(i_pArgs) ||
+      !ZELSYP_CHECK_POINTER_DETAILS(i_pArgs->GetOrigin(), "Can't dispatch, Origin has not been set on the event arguments") ||
+      !HasExpectedClass(*i_pArgs))
+    return nullptr;
+  Nodes nodes;
+  if (!ZELSYP_CHECK_TRUE(FillListOfNodes(nodes, i_pArgs)) || !ZELSYP_CHECK_TRUE(nodes.GetLength() >= 1))
+    return nullptr;
+  return BuildElements(*i_pArgs, nodes);
+}
+
+ZELSYPEventPathElt* ZELSYPEventPathBuilder::NO_ELEMENT()
+{
+  static ZELSYPEventPathElt* const s_pNoElement = new ZELSYPEventPathElt(ZELBaseUnknown_var::Adopt(new ZELBaseUnknown));
+  return s_pNoElement;
+}
+
+int ZELSYPEventPathBuilder::FillListOfNodes(Nodes& io_list, ZELSYPEventArgs* i_pArgs)
+{
+  if (!ZELSYP_CHECK_TRUE(io_list.GetLength() == 0) || !ZELSYP_CHECK_POINTER(i_pArgs))
+    return 0;
+  ZELBaseUnknown_var spOrigin = i_pArgs->GetOrigin();
+  const ZELSYPEvent* const pEvent = i_pArgs->GetEvent();
+  if (!ZELSYP_CHECK_HANDLER(spOrigin) || !ZELSYP_CHECK_POINTER(pEvent))
+    return 0;
+  const ZELSYPEvent::Propagation propagation = pEvent->GetPropagation();
+  if (propagation == ZELSYPEvent::NoPropagation)
+    return io_list.Append(std::move(spOrigin));
+  if (!IsKnown(propagation) || !AddChain(io_list, *i_pArgs, spOrigin.Get()))
+    return 0;
+  if (propagation == ZELSYPEvent::RootToOrigin)
+    std::reverse(io_list.begin(), io_list.end());
+  return ZELSYP_CHECK_TRUE(io_list.GetLength() >= 1);
+}
+
+int ZELSYPEventPathBuilder::AddChain(Nodes& io_list, ZELSYPEventArgs& i_args, ZELBaseUnknown* i_pOrigin)
+{
+  io_list.SetCapacity(UsualDepth);
+  for (ZELBaseUnknown* pNode = i_pOrigin; pNode; pNode = GetParent(&i_args, pNode))
+    if (!io_list.Append(ZELBaseUnknown_var(pNode)))
+      return 0;
+  return 1;
+}
+
+ZELSYPEventPath* ZELSYPEventPathBuilder::BuildElements(ZELSYPEventArgs& i_args, const Nodes& i_nodes)
+{
+  std::unique_ptr<ZELSYPEventPath> pPath = std::make_unique<ZELSYPEventPath>();
+  for (const ZELBaseUnknown_var& spNode : i_nodes)
+  {
+    if (!ZELSYP_CHECK_HANDLER(spNode))
+      return nullptr;
+    ZELSYPEventPathElt* const pElt = BuildElement(&i_args, spNode.Get());
+    if (!ZELSYP_CHECK_POINTER_DETAILS(pElt, "Implementation of BuildElement returned NULL"))
+      return nullptr;
+    if (pElt != NO_ELEMENT())
+      pPath->AddElement(pElt);
+  }
+  return pPath.release();
+}

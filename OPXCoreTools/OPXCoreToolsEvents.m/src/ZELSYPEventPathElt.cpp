@@ -1,0 +1,72 @@
+#include "ZELSYPEventPathElt.h"
+
+#include "ZELSYPCheck.h"
+#include "ZELSYPDispatchObserver.h"
+#include "ZELSYPEventArgs.h"
+#include "ZELSYPEventHandler.h"
+#include "ZELSYPEventHandlerInfo.h"
+
+#include <new>
+#include <utility>
+
+ZELSYPEventPathElt::ZELSYPEventPathElt(ZELBaseUnknown_var i_spNode) : _spNode(std::move(i_spNode))
+{
+  ZELSYP_CHECK_REPORT(_spNode, Check_Handler_Failed__, "i_spNode", __LINE__, nullptr);
+}
+
+ZELSYPEventPathElt::~ZELSYPEventPathElt() = default;
+
+void* ZELSYPEventPathElt::operator new(std::size_t i_bytes)
+{
+  if (void* const pMemory = ZELSYPRecycledBlocks::Take(i_bytes))
+    return pMemory;
+  throw std::bad_alloc();
+}
+
+void ZELSYPEventPathElt::AddList(const ZELSYPEventHandlerInfoList& i_list)
+{
+  _lists.Append(i_list);
+}
+
+void ZELSYPEventPathElt::Dispatch(ZELSYPEventArgs* i_pArgs) const
+{
+  if (!ZELSYP_CHECK_HANDLER(_spNode) || !ZELSYP_CHECK_POINTER(i_pArgs))
+    return;
+  for (int list = 0; list < _lists.GetLength() && RunList(list, *i_pArgs); ++list)
+  {
+  }
+}
+
+// The list is looked up again for every handler: a handler may add lists to this very stop.
+bool ZELSYPEventPathElt::RunList(int i_list, ZELSYPEventArgs& io_args) const
+{
+  for (int index = 0; index < _lists.begin()[i_list].GetSize(); ++index)
+  {
+    ZELSYPEventHandlerInfo* const pInfo = _lists.begin()[i_list].begin()[index];
+    if (!ZELSYP_CHECK_POINTER(pInfo))
+      return false;
+    ZELSYPEventHandler* const pHandler = pInfo->GetHandler();
+    if (!ZELSYP_CHECK_POINTER(pHandler))
+      return false;
+    if (__builtin_expect(ZELSYPDispatchObserver::AnyLives(), false))
+      RunObserved(i_list, index, *pInfo, io_args);
+    else if (MayRun(*pInfo, io_args))
+      pHandler->Handle(_spNode.Get(), &io_args);
+  }
+  return true;
+}
+
+void ZELSYPEventPathElt::RunObserved(int i_list, int i_index, ZELSYPEventHandlerInfo& i_info, ZELSYPEventArgs& io_args) const
+{
+  const ZELSYPDispatchObserver::Step step{*this, i_list, i_index, i_info, io_args};
+  if (!MayRun(i_info, io_args))
+    return ZELSYPDispatchObserver::Tell(&ZELSYPDispatchObserver::HandlerSkipped, step);
+  ZELSYPDispatchObserver::Tell(&ZELSYPDispatchObserver::HandlerRuns, step);
+  i_info.GetHandler()->Handle(_spNode.Get(), &io_args);
+  ZELSYPDispatchObserver::Tell(&ZELSYPDispatchObserver::HandlerRan, step);
+}
+
+bool ZELSYPEventPathElt::MayRun(const ZELSYPEventHandlerInfo& i_info, const ZELSYPEventArgs& i_args)
+{
+  return i_info.GetHandleConsumedEvents() != 0 || !i_args.IsConsumed();
+}

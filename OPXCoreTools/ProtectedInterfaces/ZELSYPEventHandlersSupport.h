@@ -1,0 +1,54 @@
+// ZELSYPEventHandlersSupport: the handlers of one object (or of one class): for each event, its list of registrations.
+// ZELSYPEventHandlersSupport support; support.AddHandler(pEvent, pHandler, 0); support.RemoveHandler(pEvent, pHandler);
+//
+// It holds one reference on every event that ever had a handler here, until it is cleared. UI thread only.
+#ifndef ZELSYPEventHandlersSupport_H
+#define ZELSYPEventHandlersSupport_H
+
+#include "OPXCoreToolsExport.h"
+#include "ZELSYPEventHandlerInfoList.h"
+#include "ZELSYPHashMap.h"
+
+class ZELSYPEvent;
+class ZELSYPEventHandler;
+
+class OPXCORETOOLS_EXPORT ZELSYPEventHandlersSupport
+{
+public:
+  ZELSYPEventHandlersSupport();
+  ZELSYPEventHandlersSupport(const ZELSYPEventHandlersSupport&) = delete;
+  ZELSYPEventHandlersSupport& operator=(const ZELSYPEventHandlersSupport&) = delete;
+  // Releases the events and, through the lists, the handlers.
+  virtual ~ZELSYPEventHandlersSupport();
+
+  // 1: the handler stands last in the event's list, and is held. Registered twice, it runs twice.
+  // 0, and nothing is stored: no event ("i_pEvent"), no handler ("i_pHandler"), a handler without an arguments class
+  // ("pHandlerArgumentsClass"), an event without an argument type ("pEventArgumentsClass"), or a handler whose arguments
+  // class the event's argument type is not a kind of ("The handler expects argument of type ..."); no memory ("pList").
+  // i_handleConsumedEvents other than 0: the handler also runs once the arguments are consumed.
+  int AddHandler(ZELSYPEvent* i_pEvent, ZELSYPEventHandler* i_pHandler, int i_handleConsumedEvents);
+  // 1: the first registration of this very handler is taken out. 0: there is none; no event ("i_pEvent"); no handler
+  // ("i_pHandler"); an entry without content on the way ("pInfo").
+  int RemoveHandler(ZELSYPEvent* i_pEvent, ZELSYPEventHandler* i_pHandler);
+  // The registrations for the event as they are now; what is registered or removed later does not reach the answer.
+  // Handlers that say MustBeRemoved are dropped for good first. No event: "i_pEvent", and an empty list.
+  ZELSYPEventHandlerInfoList GetHandlersList(ZELSYPEvent* i_pEvent);
+  // Forgets all registrations and takes over those of i_support, which both then share until one of them changes.
+  // Replacing with itself does nothing.
+  void ReplaceHandlers(const ZELSYPEventHandlersSupport& i_support);
+
+private:
+  friend class ZELSYPSupportsEventPathBuilder;
+  typedef ZELSYPHashMap<ZELSYPEvent*, ZELSYPEventHandlerInfoList> ListsByEvent;
+
+  ZELSYPEventHandlerInfoList* FindOrAddList(ZELSYPEvent* i_pEvent);
+  void StoreList(ZELSYPEvent* i_pEvent, const ZELSYPEventHandlerInfoList& i_list);
+  // The stored list once it is pruned, or null.
+  ZELSYPEventHandlerInfoList* FindPrunedList(ZELSYPEvent* i_pEvent);
+  void CopyFrom(const ZELSYPEventHandlersSupport& i_support);
+  void Clear();
+
+  ListsByEvent _eventHandlers;
+};
+
+#endif

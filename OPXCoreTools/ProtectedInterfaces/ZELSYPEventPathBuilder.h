@@ -1,0 +1,54 @@
+// ZELSYPEventPathBuilder: finds the route of a raised event and runs the handlers along it.
+// class TreeBuilder : public ZELSYPEventPathBuilder { ... }; TreeBuilder builder; builder.Dispatch(pOrigin, &args);
+//
+// A subclass says what there is to run at a node, and what the node's parent is. Dispatches may be nested. UI thread only.
+#ifndef ZELSYPEventPathBuilder_H
+#define ZELSYPEventPathBuilder_H
+
+#include "OPXCoreToolsExport.h"
+#include "ZELBaseUnknown_var.h"
+#include "ZELSYPArray.h"
+#include "ZELSYPEventPath.h"
+#include "ZELSYPRecycledBlocks.h"
+
+class ZELSYPEventArgs;
+
+class OPXCORETOOLS_EXPORT ZELSYPEventPathBuilder
+{
+public:
+  ZELSYPEventPathBuilder() = default;
+  ZELSYPEventPathBuilder(const ZELSYPEventPathBuilder&) = default;
+  ZELSYPEventPathBuilder& operator=(const ZELSYPEventPathBuilder&) = default;
+  virtual ~ZELSYPEventPathBuilder();
+
+  // 1: the route was built and run, whether or not a handler ran. The origin is set on arguments that have none.
+  // 0, and nothing runs: no origin ("i_pOrigin"), no arguments ("i_pArgs"), arguments that have another origin
+  // ("i_pOrigin->IsEqual(i_pArgs->GetOrigin())" with "The origin of the event is incorrect"), or no route: what BuildPath
+  // reports, and "pPath". What a handler throws goes through; the route is given up first.
+  int Dispatch(ZELBaseUnknown* i_pOrigin, ZELSYPEventArgs* i_pArgs);
+  // The route, which may have no stop; the caller owns it. Null: no arguments ("i_pArgs"); no origin ("i_pArgs->GetOrigin()"
+  // with "Can't dispatch, Origin has not been set on the event arguments"); no event ("pEvent"), argument type of the event
+  // ("pEventArgumentType") or class of the arguments ("pArgsType"); arguments of a class that is not a kind of that type
+  // ("The event expects argument of type ..."); no node ("FillListOfNodes(nodes, i_pArgs)", "nodes.GetLength() >= 1",
+  // "spNode"); a BuildElement that answers null ("pElt" with "Implementation of BuildElement returned NULL").
+  ZELSYPEventPath* BuildPath(ZELSYPEventArgs* i_pArgs);
+
+protected:
+  // What BuildElement answers for a node that has nothing to run. Made by the first call, for ever.
+  static ZELSYPEventPathElt* NO_ELEMENT();
+
+private:
+  typedef ZELSYPArray<ZELBaseUnknown_var, ZELSYPRecycledBlocks> Nodes;
+
+  // A new stop, which the caller owns, for a node that has something to run; NO_ELEMENT() for one that has not; null when
+  // that cannot be told.
+  virtual ZELSYPEventPathElt* BuildElement(ZELSYPEventArgs* i_pArgs, ZELBaseUnknown* i_pNode) = 0;
+  // The next node towards the root, borrowed; null at the root. It must come to an end.
+  virtual ZELBaseUnknown* GetParent(ZELSYPEventArgs* i_pArgs, ZELBaseUnknown* i_pNode) = 0;
+
+  int FillListOfNodes(Nodes& io_list, ZELSYPEventArgs* i_pArgs);
+  int AddChain(Nodes& io_list, ZELSYPEventArgs& i_args, ZELBaseUnknown* i_pOrigin);
+  ZELSYPEventPath* BuildElements(ZELSYPEventArgs& i_args, const Nodes& i_nodes);
+};
+
+#endif

@@ -1,0 +1,38 @@
+// ZELSYPSupportsEventPathBuilder: a builder of routes whose stops come from the stores of handlers.
+// class TreeBuilder : public ZELSYPSupportsEventPathBuilder { GetParent, GetSupportForNode, GetClassSupportForNode ... };
+//
+// At a node run first the handlers of its class, then those of each base class up to the root class, then its own.
+#ifndef ZELSYPSupportsEventPathBuilder_H
+#define ZELSYPSupportsEventPathBuilder_H
+
+#include "OPXCoreToolsExport.h"
+#include "ZELSYPEventPathBuilder.h"
+
+class ZELSYPClassEventHandlersSupport;
+class ZELSYPEvent;
+class ZELSYPEventHandlersSupport;
+
+class OPXCORETOOLS_EXPORT ZELSYPSupportsEventPathBuilder : public ZELSYPEventPathBuilder
+{
+public:
+  ZELSYPSupportsEventPathBuilder() = default;
+  ZELSYPSupportsEventPathBuilder(const ZELSYPSupportsEventPathBuilder&) = default;
+  ZELSYPSupportsEventPathBuilder& operator=(const ZELSYPSupportsEventPathBuilder&) = default;
+  ~ZELSYPSupportsEventPathBuilder() override;
+
+protected:
+  // What the two questions below answer for a node that has no store. Made by the first call, for ever.
+  static ZELSYPEventHandlersSupport* NO_SUPPORT();
+  static ZELSYPClassEventHandlersSupport* NO_CLASS_SUPPORT();
+
+  // Null for no arguments ("i_pArgs"), no node ("i_pNode"), no event ("pEvent"), and when one of the questions is answered
+  // by null ("pSupport", "pClassSupport"); both are asked first.
+  ZELSYPEventPathElt* BuildElement(ZELSYPEventArgs* i_pArgs, ZELBaseUnknown* i_pNode) override;
+
+private:
+  // The stores of the node, borrowed.
+  virtual ZELSYPEventHandlersSupport* GetSupportForNode(ZELBaseUnknown* i_pNode) = 0;
+  virtual ZELSYPClassEventHandlersSupport* GetClassSupportForNode(ZELBaseUnknown* i_pNode) = 0;
+};
+
+#endif
