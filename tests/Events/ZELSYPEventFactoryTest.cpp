@@ -1,6 +1,5 @@
 #include "ZELSYPEventFactory.h"
 
-#include "AllocationFailures.h"
 #include "EventWorld.h"
 #include "RecordingFailureHandler.h"
 
@@ -177,38 +176,4 @@ TEST_F(ZELSYPEventFactoryTest, AllEventsAreListedClassByClass)
   ZELSYPEvent* const pLocked = NewEvent("Locked", 0, ZELSYPEventArgs::MetaObject(), Gate::MetaObject());
   ZELSYPEvent* const pClosed = _factory.NewDoorEvent("Closed");
   EXPECT_THAT(Listed(_factory.GetEvents()), ElementsAre(pOpened, pClosed, pLocked));
-}
-
-TEST_F(ZELSYPEventFactoryTest, WithoutMemoryForTheMapOfAClassItIsReported)
-{
-  if (!AllocationFailures::AreObeyed())
-    GTEST_SKIP() << "This build's runtime keeps its own operators: no memory can be refused from here.";
-  const int requests = AllocationFailures::GetRequestCount();
-  _factory.NewDoorEvent("Probe");
-  if (AllocationFailures::GetRequestCount() == requests)
-    GTEST_SKIP() << "This system's libraries bring their own operators: no memory of theirs can be refused from here.";
-  OpenFactory empty;
-  {
-    AllocationFailures refused;
-    EXPECT_EQ(nullptr, empty.NewDoorEvent("Opened"));
-  }
-  EXPECT_THAT(_failures.GetMessages(), ElementsAre("Failed to add the element", "pointer pEventMap is NULL"));
-  EXPECT_NE(nullptr, empty.NewDoorEvent("Opened"));
-}
-
-TEST_F(ZELSYPEventFactoryTest, WithoutMemoryForAnEntryTheEventIsReportedAndGone)
-{
-  if (!AllocationFailures::AreObeyed())
-    GTEST_SKIP() << "This build's runtime keeps its own operators: no memory can be refused from here.";
-  const int requests = AllocationFailures::GetRequestCount();
-  for (const char* const name : {"A", "B", "C", "D"})
-    _factory.NewDoorEvent(name);
-  if (AllocationFailures::GetRequestCount() == requests)
-    GTEST_SKIP() << "This system's libraries bring their own operators: no memory of theirs can be refused from here.";
-  {
-    AllocationFailures refused;
-    EXPECT_EQ(nullptr, _factory.NewDoorEvent("Opened"));
-  }
-  EXPECT_THAT(_failures.GetMessages(), ElementsAre("Failed to add the element", "boolean pEvent->Release() >= 1 is FALSE"));
-  EXPECT_NE(nullptr, _factory.NewDoorEvent("Opened"));
 }

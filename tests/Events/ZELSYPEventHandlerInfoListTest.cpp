@@ -1,6 +1,5 @@
 #include "ZELSYPEventHandlerInfoList.h"
 
-#include "AllocationFailures.h"
 #include "EventWorld.h"
 #include "RecordingFailureHandler.h"
 #include "ZELSYPEventHandlerInfo.h"
@@ -488,26 +487,6 @@ TEST_F(ZELSYPEventHandlerInfoListTest, LastHolderOfAPayloadReleasesTheHandlers)
   EXPECT_EQ(living + 1, CountedHandler::s_living);
   copy.reset();
   EXPECT_EQ(living, CountedHandler::s_living);
-}
-
-TEST_F(ZELSYPEventHandlerInfoListTest, WithoutMemoryForAPayloadNothingIsAdded)
-{
-  if (!AllocationFailures::AreObeyed())
-    GTEST_SKIP() << "This build's runtime keeps its own operators: no memory can be refused from here.";
-  const int requests = AllocationFailures::GetRequestCount();
-  const auto info = NewInfo(_first.Get());
-  ZELSYPEventHandlerInfoList probe;
-  probe.Add(info.Get());
-  if (AllocationFailures::GetRequestCount() == requests)
-    GTEST_SKIP() << "This system's libraries bring their own operators: no memory of theirs can be refused from here.";
-  ZELSYPEventHandlerInfoList list;
-  {
-    AllocationFailures refused;
-    list.Add(info.Get());
-  }
-  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer _pSharedData is NULL"));
-  EXPECT_EQ(0, list.GetSize());
-  EXPECT_EQ(2, CountReferences(info.Get()));
 }
 
 TEST_F(ZELSYPEventHandlerInfoListTest, NullEntryIsReportedAndLeftOutByAWriteToASharedList)

@@ -1,0 +1,84 @@
+#include "AllocationFailures.h"
+#include "EventWorld.h"
+#include "RecordingFailureHandler.h"
+#include "ZELSYPEventHandlerInfo.h"
+#include "ZELSYPEventHandlerInfoList.h"
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+
+TEST(EventsWithoutMemoryTest, EventIsRefusedAndReportedWhenItsClassCannotBeKept)
+{
+  RecordingFailureHandler failures;
+  OpenFactory factory;
+  {
+    AllocationFailures refused;
+    EXPECT_EQ(nullptr, factory.NewDoorEvent("Opened"));
+  }
+  EXPECT_THAT(failures.GetMessages(), ElementsAre("Failed to add the element", "pointer pEventMap is NULL"));
+  EXPECT_NE(nullptr, factory.NewDoorEvent("Opened"));
+}
+
+TEST(EventsWithoutMemoryTest, EventIsReleasedAndReportedWhenItCannotBeKept)
+{
+  RecordingFailureHandler failures;
+  OpenFactory factory;
+  // As many as fit before the map takes memory again.
+  for (const char* const name : {"A", "B", "C", "D"})
+    factory.NewDoorEvent(name);
+  {
+    AllocationFailures refused;
+    EXPECT_EQ(nullptr, factory.NewDoorEvent("Opened"));
+  }
+  EXPECT_THAT(failures.GetMessages(), ElementsAre("Failed to add the element", "boolean pEvent->Release() >= 1 is FALSE"));
+  EXPECT_NE(nullptr, factory.NewDoorEvent("Opened"));
+}
+
+TEST(EventsWithoutMemoryTest, RegistrationIsNotTakenWhenThereIsNoPayload)
+{
+  RecordingFailureHandler failures;
+  const auto handler = CountedHandler::New();
+  const auto info = ZELHandle<ZELSYPEventHandlerInfo>::Adopt(new ZELSYPEventHandlerInfo(handler.Get(), 0));
+  ZELSYPEventHandlerInfoList list;
+  {
+    AllocationFailures refused;
+    list.Add(info.Get());
+  }
+  EXPECT_THAT(failures.GetMessages(), ElementsAre("pointer _pSharedData is NULL"));
+  EXPECT_EQ("ZELSYPEventHandlerInfoList.cpp", failures.GetFailures()[0].file);
+  EXPECT_EQ(0, list.GetSize());
+  EXPECT_EQ(1, CountReferences(info.Get()));
+}
+
+TEST(EventsWithoutMemoryTest, WriteToASharedListThatCannotBeCopiedLeavesTheOtherOneWhole)
+{
+  RecordingFailureHandler failures;
+  const auto handler = CountedHandler::New();
+  ZELSYPEventHandlerInfoList list;
+  list.AddHandler(handler.Get(), 0);
+  const ZELSYPEventHandlerInfoList snapshot(list);
+  {
+    AllocationFailures refused;
+    list.Remove(0);
+  }
+  EXPECT_THAT(failures.GetMessages(), ElementsAre("pointer _pSharedData is NULL"));
+  EXPECT_EQ(1, snapshot.GetSize());
+  EXPECT_EQ(2, CountReferences(handler.Get()));
+}
+
+TEST(EventsWithoutMemoryTest, RegistrationThatFindsNoRoomIsNotHeld)
+{
+  RecordingFailureHandler failures;
+  const auto handler = CountedHandler::New();
+  const auto info = ZELHandle<ZELSYPEventHandlerInfo>::Adopt(new ZELSYPEventHandlerInfo(handler.Get(), 0));
+  ZELSYPEventHandlerInfoList list;
+  list.AddHandler(handler.Get(), 0);
+  {
+    AllocationFailures refused;
+    list.Add(info.Get());
+  }
+  EXPECT_THAT(failures.GetMessages(), ElementsAre("pointer plNewArray is NULL"));
+  EXPECT_EQ(1, list.GetSize());
+  EXPECT_EQ(1, CountReferences(info.Get()));
+}
