@@ -1,55 +1,25 @@
-// What a reference taken and given back costs, beside a counter of the same kind.
+// What a reference taken and given back costs, beside a counter of the same kind. This process has one thread, which must
+// stay so: no instruction is locked then. RefCountingThreadsBenchmark.cpp measures the same beside a second thread.
 //
-// Tried and dropped: nothing. Both are one locked addition and one locked subtraction; what is left to lose is a call,
-// so both operations stand in the header.
-#include "ZELSYPRefCounted.h"
+// Tried and dropped: asking for the count that is left, and comparing it with 0. The count costs an exchange (xadd) in
+// place of a subtraction whose flags tell.
+#include "RefCounting/RefCountingCases.h"
 
-#include <benchmark/benchmark.h>
-
-#if OPX_PEER_BOOST
-#include <boost/smart_ptr/intrusive_ptr.hpp>
-#include <boost/smart_ptr/intrusive_ref_counter.hpp>
+#if __has_include(<sys/single_threaded.h>)
+#include <sys/single_threaded.h>
 #endif
 
-namespace
-{
-class Counted : public ZELSYPRefCounted
-{
-};
+#include <cstdio>
 
-void AddRefRelease_Project(benchmark::State& io_state)
+int main(int i_argc, char** i_argv)
 {
-  Counted* pObject = new Counted;
-  for (auto _ : io_state)
+  const int result = RunRefCountingBenchmark(i_argc, i_argv, "");
+#if __has_include(<sys/single_threaded.h>)
+  if (!__libc_single_threaded)
   {
-    benchmark::DoNotOptimize(pObject);
-    pObject->AddRef();
-    benchmark::DoNotOptimize(pObject);
-    pObject->Release();
+    std::fprintf(stderr, "a thread was started: these are not the figures of a process with one thread\n");
+    return 1;
   }
-  pObject->Release();
-}
-BENCHMARK(AddRefRelease_Project)->Name("AddRefRelease/Project");
-
-#if OPX_PEER_BOOST
-class BoostCounted : public boost::intrusive_ref_counter<BoostCounted, boost::thread_safe_counter>
-{
-public:
-  virtual ~BoostCounted() = default;
-};
-
-void AddRefRelease_Boost(benchmark::State& io_state)
-{
-  const boost::intrusive_ptr<BoostCounted> spObject(new BoostCounted);
-  BoostCounted* pObject = spObject.get();
-  for (auto _ : io_state)
-  {
-    benchmark::DoNotOptimize(pObject);
-    intrusive_ptr_add_ref(pObject);
-    benchmark::DoNotOptimize(pObject);
-    intrusive_ptr_release(pObject);
-  }
-}
-BENCHMARK(AddRefRelease_Boost)->Name("AddRefRelease/boost::intrusive_ptr");
 #endif
-} // namespace
+  return result;
+}

@@ -26,6 +26,8 @@ public:
   // Both answer the count that stands then. Whoever brings it to 0 sees all that was done under the other references.
   std::int32_t Increment() noexcept { return *ZELProcessHasOneThread ? Add(1) : _count.fetch_add(1, std::memory_order_relaxed) + 1; }
   std::int32_t Decrement() noexcept { return *ZELProcessHasOneThread ? Add(-1) : _count.fetch_sub(1, std::memory_order_acq_rel) - 1; }
+  // Decrement() == 0, for which the processor keeps no count.
+  bool DecrementToZero() noexcept { return *ZELProcessHasOneThread ? Add(-1) == 0 : _count.fetch_sub(1, std::memory_order_acq_rel) == 1; }
 
 private:
   std::int32_t Add(std::int32_t i_difference) noexcept

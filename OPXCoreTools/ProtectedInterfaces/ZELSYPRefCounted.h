@@ -4,9 +4,7 @@
 #define ZELSYPRefCounted_H
 
 #include "OPXCoreToolsExport.h"
-
-#include <atomic>
-#include <cstdint>
+#include "ZELAtomicCounter.h"
 
 class OPXCORETOOLS_EXPORT ZELSYPRefCounted
 {
@@ -15,21 +13,21 @@ public:
   ZELSYPRefCounted& operator=(const ZELSYPRefCounted&) = delete;
 
   // One reference more. Any thread that holds one.
-  void AddRef() noexcept { _count.fetch_add(1, std::memory_order_relaxed); }
+  void AddRef() noexcept { _count.Increment(); }
   // Gives a reference back; the last one deletes the object, on the thread that gives it back.
   void Release()
   {
-    if (_count.fetch_sub(1, std::memory_order_acq_rel) == 1)
+    if (_count.DecrementToZero())
       delete this;
   }
 
 protected:
   // The creator holds the first reference.
-  ZELSYPRefCounted() noexcept : _count(1) {}
+  ZELSYPRefCounted() noexcept = default;
   virtual ~ZELSYPRefCounted();
 
 private:
-  std::atomic<std::int32_t> _count;
+  ZELAtomicCounter _count{1};
 };
 
 #endif
