@@ -20,7 +20,7 @@ public:                                                                         
   [[maybe_unused]] static const ZELClassId& ClassId();                                                                                     \
   [[maybe_unused]] static ZELMetaClass* MetaObject();                                                                                      \
   [[maybe_unused]] static ZELBaseUnknown* CreateItself();                                                                                  \
-  ZELMetaClass* GetMetaObject() const override
+  [[maybe_unused]] ZELMetaClass* GetMetaObject() const override
 
 // In the body of an interface: a class of pure operations whose id is given in ZELImplementInterface.
 #define ZELDeclareInterface ZELDeclareClass

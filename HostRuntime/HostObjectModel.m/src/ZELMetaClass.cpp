@@ -36,7 +36,7 @@ ZELMetaClass* FindIn(Map Registry::*i_map, const Key& i_key)
 
 void ReportSecond(const ZELMetaClass& i_second, const ZELMetaClass& i_first, const char* i_pWhat)
 {
-  std::fprintf(stderr, "** Class %s of module %s has the %s of class %s of module %s, registered before: it is not found by it\n",
+  std::fprintf(stderr, "** Class %s of module %s has the %s of class %s of module %s, which is registered already and stays\n",
                i_second.GetName(), i_second.GetModule(), i_pWhat, i_first.GetName(), i_first.GetModule());
 }
 } // namespace
