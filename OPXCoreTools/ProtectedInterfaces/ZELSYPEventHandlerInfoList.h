@@ -25,7 +25,11 @@ public:
   }
   ZELSYPEventHandlerInfoList& operator=(const ZELSYPEventHandlerInfoList& i_other);
   ZELSYPEventHandlerInfoList& operator=(ZELSYPEventHandlerInfoList&& io_other) noexcept;
-  virtual ~ZELSYPEventHandlerInfoList();
+  virtual ~ZELSYPEventHandlerInfoList()
+  {
+    if (_pSharedData)
+      _pSharedData->Detach();
+  }
 
   int GetSize() const noexcept { return _pSharedData ? _pSharedData->_handlers.GetLength() : 0; }
   // The registration at i_index (0 to GetSize() - 1), without a reference. Else null: "_pSharedData" with "List is empty!"
@@ -80,12 +84,6 @@ inline ZELSYPEventHandlerInfoList& ZELSYPEventHandlerInfoList::operator=(ZELSYPE
   ZELSYPEventHandlerInfoList taken(std::move(io_other));
   std::swap(_pSharedData, taken._pSharedData);
   return *this;
-}
-
-inline ZELSYPEventHandlerInfoList::~ZELSYPEventHandlerInfoList()
-{
-  if (_pSharedData)
-    _pSharedData->Detach();
 }
 
 #endif

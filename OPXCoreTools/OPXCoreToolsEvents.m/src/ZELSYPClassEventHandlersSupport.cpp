@@ -57,7 +57,10 @@ void ZELSYPClassEventHandlersSupport::Clear()
   for (SupportsByClass::Iterator it(_supports); !it.IsDone(); it.Next())
   {
     SupportsByClass::Pair* const pEntry = it.CurrentItem();
-    if (ZELSYP_CHECK_POINTER(pEntry) && ZELSYP_CHECK_REPORT(pEntry->_value, Check_Pointer_Failed__, "pEntry->value", __LINE__, nullptr))
+    // A walk whose map changed gets no further.
+    if (!ZELSYP_CHECK_POINTER(pEntry))
+      break;
+    if (ZELSYP_CHECK_REPORT(pEntry->_value, Check_Pointer_Failed__, "pEntry->value", __LINE__, nullptr))
       supports.Append(pEntry->_value);
   }
   _supports.RemoveAll();

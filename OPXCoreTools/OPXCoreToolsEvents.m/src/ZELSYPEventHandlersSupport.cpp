@@ -126,8 +126,9 @@ void ZELSYPEventHandlersSupport::Clear()
   for (ListsByEvent::Iterator it(_eventHandlers); !it.IsDone(); it.Next())
   {
     ListsByEvent::Pair* const pEntry = it.CurrentItem();
+    // A walk whose map changed gets no further.
     if (!ZELSYP_CHECK_POINTER(pEntry))
-      continue;
+      break;
     lists.Append(pEntry->_value);
     if (ZELSYP_CHECK_REPORT(pEntry->_key, Check_Pointer_Failed__, "pEntry->key", __LINE__, nullptr))
       pEntry->_key->Release();
