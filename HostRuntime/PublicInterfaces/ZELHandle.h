@@ -6,6 +6,7 @@
 #define ZELHandle_H
 
 #include "ZELBaseUnknown.h"
+#include "ZELTravelsAsBytes.h"
 
 #include <cstddef>
 #include <type_traits>
@@ -82,6 +83,11 @@ private:
   }
 
   T* _pObject = nullptr;
+};
+
+template <class T>
+struct ZELTravelsAsBytes<ZELHandle<T>> : std::true_type
+{
 };
 
 #endif

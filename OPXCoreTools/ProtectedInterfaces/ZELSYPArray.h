@@ -10,6 +10,7 @@
 #define ZELSYPArray_H
 
 #include "ZELSYPCheck.h"
+#include "ZELTravelsAsBytes.h"
 #include "ZELSYPHeapBlocks.h"
 
 #include <algorithm>
@@ -18,7 +19,6 @@
 #include <cstdint>
 #include <memory>
 #include <new>
-#include <type_traits>
 #include <utility>
 
 template <class T, class Blocks = ZELSYPHeapBlocks>
@@ -219,7 +219,7 @@ __attribute__((noinline)) T* ZELSYPArray<T, Blocks>::MovedToNewBlock(T* io_block
 {
   const std::size_t count = static_cast<std::size_t>(i_capacity);
   const std::size_t bytes = count > SIZE_MAX / sizeof(T) ? SIZE_MAX : count * sizeof(T);
-  if constexpr (std::is_trivially_copyable_v<T>)
+  if constexpr (ZELTravelsAsBytes<T>::value)
     return static_cast<T*>(Blocks::Extend(io_block, static_cast<std::size_t>(i_length) * sizeof(T), bytes));
   T* const newBlock = static_cast<T*>(Blocks::Take(bytes));
   if (newBlock)

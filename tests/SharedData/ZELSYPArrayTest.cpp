@@ -2,6 +2,7 @@
 
 #include "AllocationFailures.h"
 #include "RecordingFailureHandler.h"
+#include "ZELBaseUnknown_var.h"
 
 #include <gmock/gmock.h>
 
@@ -249,6 +250,22 @@ TEST(ZELSYPArrayTest, SmartPointersAreHeldOnceAndLetGoWhenRemoved)
     EXPECT_EQ(99, handle.use_count());
   }
   EXPECT_EQ(1, handle.use_count());
+}
+
+TEST(ZELSYPArrayTest, HandlesOfTheHostAreHeldOnceThroughEveryGrowth)
+{
+  const ZELBaseUnknown_var object = ZELBaseUnknown_var::Adopt(new ZELBaseUnknown);
+  {
+    ZELSYPArray<ZELBaseUnknown_var> array;
+    for (int time = 0; time < 1000; ++time)
+      array.Append(object);
+    EXPECT_EQ(1002, object->AddRef());
+    EXPECT_EQ(1001, object->Release());
+    for (const ZELBaseUnknown_var& element : array)
+      ASSERT_EQ(object.Get(), element.Get());
+  }
+  EXPECT_EQ(2, object->AddRef());
+  EXPECT_EQ(1, object->Release());
 }
 
 TEST(ZELSYPArrayTest, FailedAllocationReportsKeepsTheElementsAndRecordsTheCapacity)
