@@ -33,6 +33,8 @@ public:
   // The registrations for the event as they are now; what is registered or removed later does not reach the answer.
   // Handlers that say MustBeRemoved are dropped for good first. No event: "i_pEvent", and an empty list.
   ZELSYPEventHandlerInfoList GetHandlersList(ZELSYPEvent* i_pEvent);
+  // How many registrations stand for the event, those of handlers that must be removed included. No event: "i_pEvent", and 0.
+  int GetHandlersCount(ZELSYPEvent* i_pEvent) const;
   // Forgets all registrations and takes over those of i_support, which both then share until one of them changes.
   // Replacing with itself does nothing.
   void ReplaceHandlers(const ZELSYPEventHandlersSupport& i_support);

@@ -11,6 +11,7 @@
 #include "ZELSYPEventPath.h"
 #include "ZELSYPRecycledBlocks.h"
 
+class ZELSYPEvent;
 class ZELSYPEventArgs;
 
 class OPXCORETOOLS_EXPORT ZELSYPEventPathBuilder
@@ -32,6 +33,10 @@ public:
   // ("The event expects argument of type ..."); no node ("FillListOfNodes(nodes, i_pArgs)", "nodes.GetLength() >= 1",
   // "spNode"); a BuildElement that answers null ("pElt" with "Implementation of BuildElement returned NULL").
   ZELSYPEventPath* BuildPath(ZELSYPEventArgs* i_pArgs);
+  // 1: a dispatch of the event from the origin would come to a handler, one of consumed arguments not counted out. 0: it
+  // would not, or would be refused: no origin ("i_pOrigin"), no event ("i_pEvent"), or no route. BuildElement and GetParent
+  // are asked with plain ZELSYPEventArgs that have nothing but the event and the origin.
+  int IsHeard(ZELBaseUnknown* i_pOrigin, ZELSYPEvent* i_pEvent);
 
 protected:
   // What BuildElement answers for a node that has nothing to run. Made by the first call, for ever.

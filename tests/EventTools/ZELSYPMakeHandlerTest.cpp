@@ -1,6 +1,6 @@
 #include "ZELSYPMakeHandler.h"
 
-#include "EventArguments.h"
+#include "EventWorld.h"
 #include "RecordingFailureHandler.h"
 
 #include <gmock/gmock.h>

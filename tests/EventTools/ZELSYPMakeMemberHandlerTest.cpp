@@ -1,6 +1,6 @@
 #include "ZELSYPMakeMemberHandler.h"
 
-#include "EventArguments.h"
+#include "EventWorld.h"
 #include "RecordingFailureHandler.h"
 
 #include <gmock/gmock.h>

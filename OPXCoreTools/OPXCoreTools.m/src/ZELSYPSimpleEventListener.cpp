@@ -36,6 +36,16 @@ int ZELSYPSimpleEventListener::Dispatch(ZELSYPEventArgs* i_pArgs)
   return EventListening::Dispatch(this, i_pArgs, _pEventHandlersSupport, _pClassEventHandlersSupport);
 }
 
+ZELSYPEventHandlersSupport* ZELSYPSimpleEventListener::GetHandlersSupport() const noexcept
+{
+  return _pEventHandlersSupport.get();
+}
+
+ZELSYPClassEventHandlersSupport* ZELSYPSimpleEventListener::GetClassHandlersSupport() noexcept
+{
+  return _pClassEventHandlersSupport.get();
+}
+
 ZELSYPEventFactory* ZELSYPSimpleEventListener::GetEventFactory()
 {
   static ZELSYPEventFactory s_factory;

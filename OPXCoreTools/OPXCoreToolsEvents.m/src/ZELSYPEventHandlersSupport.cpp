@@ -76,6 +76,12 @@ ZELSYPEventHandlerInfoList ZELSYPEventHandlersSupport::GetHandlersList(ZELSYPEve
   return pList ? *pList : ZELSYPEventHandlerInfoList();
 }
 
+int ZELSYPEventHandlersSupport::GetHandlersCount(ZELSYPEvent* i_pEvent) const
+{
+  const ZELSYPEventHandlerInfoList* const pList = ZELSYP_CHECK_POINTER(i_pEvent) ? _eventHandlers.Locate(i_pEvent) : nullptr;
+  return pList ? pList->GetSize() : 0;
+}
+
 void ZELSYPEventHandlersSupport::ReplaceHandlers(const ZELSYPEventHandlersSupport& i_support)
 {
   if (this == &i_support)

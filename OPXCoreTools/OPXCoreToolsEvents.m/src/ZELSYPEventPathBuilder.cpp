@@ -78,6 +78,17 @@ ZELSYPEventPath* ZELSYPEventPathBuilder::BuildPath(ZELSYPEventArgs* i_pArgs)
   return BuildElements(*i_pArgs, nodes);
 }
 
+int ZELSYPEventPathBuilder::IsHeard(ZELBaseUnknown* i_pOrigin, ZELSYPEvent* i_pEvent)
+{
+  if (!ZELSYP_CHECK_POINTER(i_pOrigin) || !ZELSYP_CHECK_POINTER(i_pEvent))
+    return 0;
+  ZELSYPEventArgs args(i_pEvent);
+  args.SetOrigin(i_pOrigin);
+  Nodes nodes;
+  const std::unique_ptr<ZELSYPEventPath> pPath(FillListOfNodes(nodes, &args) ? BuildElements(args, nodes) : nullptr);
+  return pPath && pPath->GetElementCount() > 0;
+}
+
 ZELSYPEventPathElt* ZELSYPEventPathBuilder::NO_ELEMENT()
 {
   static ZELSYPEventPathElt* const s_pNoElement = new ZELSYPEventPathElt(ZELBaseUnknown_var::Adopt(new ZELBaseUnknown));

@@ -1,0 +1,108 @@
+// ZELSYPDispatchTracer: while it lives, one line for each step of every dispatch: who runs, where, and who consumes.
+// ZELSYPDispatchTracer tracer([](const std::string& i_line) { std::cerr << i_line << '\n'; });
+//
+// A handler "runs"; it "consumes" if the arguments are consumed when it returns and were not before; it is "passed over"
+// because they were. Steps of a nested dispatch stand between the line of the handler that raised it and that handler's
+// "consumes". Several may live at once. Without one, a dispatch costs what it always does. UI thread.
+#ifndef ZELSYPDispatchTracer_H
+#define ZELSYPDispatchTracer_H
+
+#include "ZELSYPDispatchObserver.h"
+#include "ZELSYPEventArgs.h"
+#include "ZELSYPEventHandler.h"
+#include "ZELSYPEventHandlerInfo.h"
+#include "ZELSYPEventPathElt.h"
+
+#include <functional>
+#include <sstream>
+#include <string>
+#include <utility>
+#include <vector>
+
+class ZELSYPDispatchTracer final : public ZELSYPDispatchObserver
+{
+public:
+  enum class Format
+  {
+    // runs Door.Opened at Door@0x5581, list 0, position 1: ZELSYPEventHandler@0x5582
+    Text,
+    // {"step":"runs","event":"Door.Opened","node":"Door@0x5581","list":0,"position":1,"handler":"ZELSYPEventHandler@0x5582"}
+    JSON
+  };
+
+  // i_write takes each line, without an end of line. It is not told of what it dispatches itself.
+  explicit ZELSYPDispatchTracer(std::function<void(const std::string&)> i_write, Format i_format = Format::Text)
+      : _write(std::move(i_write)), _format(i_format)
+  {
+  }
+
+private:
+  void HandlerRuns(const Step& i_step) override
+  {
+    _running.emplace_back(&i_step._args, i_step._args.IsConsumed() != 0);
+    Write("runs", i_step);
+  }
+  void HandlerRan(const Step& i_step) override
+  {
+    if (!WasConsumedBefore(i_step._args) && i_step._args.IsConsumed())
+      Write("consumes", i_step);
+  }
+  void HandlerSkipped(const Step& i_step) override { Write("passed over", i_step); }
+
+  // What stood above it was left by an exception. A handler that was running when the tracer was made is not there.
+  bool WasConsumedBefore(const ZELSYPEventArgs& i_args)
+  {
+    while (!_running.empty())
+    {
+      const auto [pArgs, wasConsumed] = _running.back();
+      _running.pop_back();
+      if (pArgs == &i_args)
+        return wasConsumed;
+    }
+    return true;
+  }
+  void Write(const char* i_what, const Step& i_step)
+  {
+    if (!_isWriting && _write)
+    {
+      _isWriting = true;
+      _write(_format == Format::Text ? AsText(i_what, i_step) : AsJSON(i_what, i_step));
+      _isWriting = false;
+    }
+  }
+
+  static std::string AsText(const char* i_what, const Step& i_step)
+  {
+    std::ostringstream line;
+    line << i_what << ' ' << NameOfEvent(i_step) << " at " << NameOf(i_step._stop.GetNode()) << ", list " << i_step._list << ", position "
+         << i_step._index << ": " << NameOf(i_step._info.GetHandler());
+    return line.str();
+  }
+  // The names of events and classes are identifiers: nothing in them needs an escape.
+  static std::string AsJSON(const char* i_what, const Step& i_step)
+  {
+    std::ostringstream line;
+    line << R"({"step":")" << i_what << R"(","event":")" << NameOfEvent(i_step) << R"(","node":")" << NameOf(i_step._stop.GetNode())
+         << R"(","list":)" << i_step._list << R"(,"position":)" << i_step._index << R"(,"handler":")" << NameOf(i_step._info.GetHandler())
+         << R"("})";
+    return line.str();
+  }
+  static std::string NameOfEvent(const Step& i_step)
+  {
+    const ZELSYPEvent& event = *i_step._args.GetEvent();
+    return std::string(event.GetOwnerClass()->GetName()) + "." + event.GetName();
+  }
+  static std::string NameOf(const ZELBaseUnknown* i_pObject)
+  {
+    std::ostringstream name;
+    name << i_pObject->IsA() << '@' << static_cast<const void*>(i_pObject);
+    return name.str();
+  }
+
+  const std::function<void(const std::string&)> _write;
+  const Format _format;
+  std::vector<std::pair<const ZELSYPEventArgs*, bool>> _running;
+  bool _isWriting = false;
+};
+
+#endif
