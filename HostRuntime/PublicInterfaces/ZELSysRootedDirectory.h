@@ -40,7 +40,8 @@ public:
     std::uint64_t object = 0;
     std::uint64_t lastWrite = 0;
     std::uint64_t lastChange = 0;
-    // False when the last change is so recent that another one may leave the same times.
+    // False when the last change is so recent that another one may leave the same times, and where the file system does
+    // not note the times of changes.
     bool isSettled = false;
 
     bool IsSameDirectory(const Stamp& i_other) const noexcept { return volume == i_other.volume && object == i_other.object; }
@@ -78,6 +79,11 @@ public:
   bool GetDetails(std::string_view i_name, Details& o_details) const;
 
 private:
+  enum : std::intptr_t
+  {
+    NotOpen = -1
+  };
+
   explicit ZELSysRootedDirectory(std::intptr_t i_handle) noexcept;
   ZELSysRootedDirectory Duplicate() const;
 

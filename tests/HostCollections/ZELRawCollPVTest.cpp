@@ -15,6 +15,12 @@ int CompareInts(void* i_left, void* i_right)
   return (left > right) - (left < right);
 }
 
+// Ascending, or descending where the context says so.
+int CompareIntsAs(void* i_left, void* i_right, void* i_pIsDescending)
+{
+  return *static_cast<bool*>(i_pIsDescending) ? CompareInts(i_right, i_left) : CompareInts(i_left, i_right);
+}
+
 ZELRawCollPV ListOf(std::vector<int>& io_values)
 {
   ZELRawCollPV list;
@@ -136,6 +142,29 @@ TEST(ZELRawCollPVTest, QuickSortOrdersAnyNumberOfElements)
     std::sort(expected.begin(), expected.end());
     EXPECT_EQ(expected, ValuesOf(list));
   }
+}
+
+TEST(ZELRawCollPVTest, QuickSortTellsTheFunctionItsContext)
+{
+  for (bool isDescending : {false, true})
+  {
+    std::vector<int> values = RandomValues(5000);
+    ZELRawCollPV list = ListOf(values);
+    list.QuickSort(&CompareIntsAs, &isDescending);
+    std::vector<int> expected = values;
+    std::sort(expected.begin(), expected.end());
+    if (isDescending)
+      std::reverse(expected.begin(), expected.end());
+    EXPECT_EQ(expected, ValuesOf(list));
+  }
+}
+
+TEST(ZELRawCollPVTest, QuickSortPassesANullContextOn)
+{
+  std::vector<int> values{20, 10};
+  ZELRawCollPV list = ListOf(values);
+  list.QuickSort([](void* i_left, void* i_right, void* i_context) { return i_context ? 0 : CompareInts(i_left, i_right); }, nullptr);
+  EXPECT_EQ((std::vector<int>{10, 20}), ValuesOf(list));
 }
 
 TEST(ZELRawCollPVTest, QuickSortWithoutAStrictOrderKeepsEveryElement)

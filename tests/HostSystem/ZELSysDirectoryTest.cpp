@@ -54,3 +54,42 @@ TEST(ZELSysDirectoryTest, ThousandsOfEntriesAreAllListed)
     folder.Write(std::to_string(i), "");
   EXPECT_EQ(Names(folder.Path()).size(), 3000u);
 }
+
+TEST(ZELSysDirectoryTest, AViewOfANameStaysValidUntilTheNextCall)
+{
+  const TestFolder folder;
+  folder.Write("a.txt", "x");
+  folder.MakeDirectory("d");
+  ZELSysDirectory entries(ZELUnicodeString(folder.Path().c_str()));
+  std::vector<std::string> names;
+  for (std::string_view name; entries.Next(name);)
+    names.emplace_back(name);
+  EXPECT_THAT(names, UnorderedElementsAre("a.txt", "d"));
+}
+
+TEST(ZELSysDirectoryTest, BothFormsOfNextWalkTheSameList)
+{
+  const TestFolder folder;
+  folder.Write("a.txt", "x");
+  folder.Write("b.txt", "x");
+  ZELSysDirectory entries(ZELUnicodeString(folder.Path().c_str()));
+  std::string_view view;
+  ASSERT_TRUE(entries.Next(view));
+  const std::string first(view);
+  ZELUnicodeString second;
+  ASSERT_TRUE(entries.Next(second));
+  EXPECT_THAT((std::vector<std::string>{first, std::string(second.GetUTF8())}), UnorderedElementsAre("a.txt", "b.txt"));
+  EXPECT_FALSE(entries.Next(view));
+  EXPECT_FALSE(entries.Next(second));
+}
+
+TEST(ZELSysDirectoryTest, AtItsEndTheTargetIsLeftAsItWas)
+{
+  const TestFolder folder;
+  ZELSysDirectory entries(ZELUnicodeString(folder.Path().c_str()));
+  ZELUnicodeString name("before");
+  std::string_view view = "before";
+  EXPECT_FALSE(entries.Next(name));
+  EXPECT_FALSE(entries.Next(view));
+  EXPECT_EQ(name.GetUTF8(), "before");
+}

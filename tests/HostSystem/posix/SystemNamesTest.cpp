@@ -36,6 +36,11 @@ TEST(SystemNamesTest, DrivePrefixNamesTheRoot)
   EXPECT_EQ(ZELSysGetFileAttributes("C:"), ZELSysGetFileAttributes("\\"));
 }
 
+TEST(SystemNamesTest, AllPathsHangFromOneRoot)
+{
+  EXPECT_TRUE(ZELSysHasOneRoot());
+}
+
 TEST(SystemNamesTest, NetworkNameStartsAtTheRoot)
 {
   const TestFolder folder;

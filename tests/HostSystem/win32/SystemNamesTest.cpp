@@ -1,6 +1,7 @@
-// What holds on Windows alone: a name behind \\?\ goes to the file system as it is written.
+// What holds on Windows alone: each drive has a root of its own, a name behind \\?\ goes to the file system as it is written.
 #include "../TestFolder.h"
 #include "ZELSysDirectory.h"
+#include "ZELSysFiles.h"
 
 #include <gmock/gmock.h>
 
@@ -13,4 +14,9 @@ TEST(SystemNamesTest, DirectoryIsListedByTheNameThatTheSystemDoesNotRewrite)
   ASSERT_TRUE(entries.Next(name));
   EXPECT_EQ(name.GetUTF8(), "a.txt");
   EXPECT_FALSE(entries.Next(name));
+}
+
+TEST(SystemNamesTest, EachDriveHasARootOfItsOwn)
+{
+  EXPECT_FALSE(ZELSysHasOneRoot());
 }

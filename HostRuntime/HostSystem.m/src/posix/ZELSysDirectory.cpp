@@ -1,5 +1,6 @@
 #include "ZELSysDirectory.h"
 
+#include "EntryNames.h"
 #include "SystemPath.h"
 
 #include <dirent.h>
@@ -19,14 +20,6 @@ struct ZELSysDirectory::Stream
   DIR* entries;
 };
 
-namespace
-{
-bool IsDots(const char* i_name)
-{
-  return i_name[0] == '.' && (i_name[1] == 0 || (i_name[1] == '.' && i_name[2] == 0));
-}
-} // namespace
-
 ZELSysDirectory::ZELSysDirectory(const ZELUnicodeString& i_directory) : _pStream(std::make_unique<Stream>(i_directory)) {}
 
 ZELSysDirectory::~ZELSysDirectory() = default;
@@ -35,10 +28,9 @@ bool ZELSysDirectory::Next(std::string_view& o_utf8Name)
 {
   while (const dirent* pEntry = _pStream->entries ? readdir(_pStream->entries) : nullptr)
   {
-    if (IsDots(pEntry->d_name))
-      continue;
     o_utf8Name = pEntry->d_name;
-    return true;
+    if (!IsDots(o_utf8Name))
+      return true;
   }
   return false;
 }

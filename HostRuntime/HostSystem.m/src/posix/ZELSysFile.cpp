@@ -1,5 +1,6 @@
 #include "ZELSysFile.h"
 
+#include "FileTimes.h"
 #include "SystemPath.h"
 
 #include <cerrno>
@@ -10,11 +11,6 @@
 
 namespace
 {
-constexpr std::int64_t TicksPerSecond = 10000000;
-constexpr std::int64_t NanosecondsPerTick = 100;
-// From 1601-01-01 to 1970-01-01.
-constexpr std::int64_t SecondsBeforeEpoch = 11644473600;
-
 // The lock belongs to this open, so that another open of the same process fails as well as another process's. A file
 // system without such locks has nothing to refuse.
 bool IsHeldByAnother(int i_file)
@@ -64,18 +60,11 @@ std::uint32_t ZELSysFile::GetSizeLow() const
 std::uint64_t ZELSysFile::GetLastWriteTime() const
 {
   struct stat status;
-  if (fstat(static_cast<int>(_handle), &status) != 0)
-    return 0;
-  const std::int64_t seconds = status.st_mtim.tv_sec + SecondsBeforeEpoch;
-  // What lies before 1601 has no count: it is the beginning.
-  return seconds < 0 ? 0 : static_cast<std::uint64_t>(seconds * TicksPerSecond + status.st_mtim.tv_nsec / NanosecondsPerTick);
+  return fstat(static_cast<int>(_handle), &status) == 0 ? FileTimes::FromSystem(status.st_mtim) : 0;
 }
 
 bool ZELSysFile::SetLastWriteTime(std::uint64_t i_time)
 {
-  timespec times[2] = {};
-  times[0].tv_nsec = UTIME_OMIT;
-  times[1].tv_sec = static_cast<std::int64_t>(i_time / TicksPerSecond) - SecondsBeforeEpoch;
-  times[1].tv_nsec = static_cast<long>(i_time % TicksPerSecond) * NanosecondsPerTick;
+  const timespec times[] = {{0, UTIME_OMIT}, FileTimes::ToSystem(i_time)};
   return futimens(static_cast<int>(_handle), times) == 0;
 }

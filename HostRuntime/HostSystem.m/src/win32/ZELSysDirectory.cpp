@@ -1,5 +1,7 @@
 #include "ZELSysDirectory.h"
 
+#include "EntryNames.h"
+
 #include <windows.h>
 
 struct ZELSysDirectory::Stream
@@ -34,14 +36,6 @@ struct ZELSysDirectory::Stream
   bool isEntryFresh;
 };
 
-namespace
-{
-bool IsDots(const wchar_t* i_name)
-{
-  return i_name[0] == L'.' && (i_name[1] == 0 || (i_name[1] == L'.' && i_name[2] == 0));
-}
-} // namespace
-
 ZELSysDirectory::ZELSysDirectory(const ZELUnicodeString& i_directory) : _pStream(std::make_unique<Stream>(i_directory)) {}
 
 ZELSysDirectory::~ZELSysDirectory() = default;
@@ -50,9 +44,10 @@ bool ZELSysDirectory::Next(std::string_view& o_utf8Name)
 {
   while (_pStream->Advance())
   {
-    if (IsDots(_pStream->entry.cFileName))
+    const std::u16string_view name = reinterpret_cast<const char16_t*>(_pStream->entry.cFileName);
+    if (IsDots(name))
       continue;
-    _pStream->name = ZELUnicodeString::FromUTF16(reinterpret_cast<const char16_t*>(_pStream->entry.cFileName));
+    _pStream->name = ZELUnicodeString::FromUTF16(name);
     o_utf8Name = _pStream->name.GetUTF8();
     return true;
   }

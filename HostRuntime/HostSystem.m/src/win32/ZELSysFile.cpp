@@ -1,5 +1,6 @@
 #include "ZELSysFile.h"
 
+#include "FileTimes.h"
 #include "SystemPath.h"
 
 #include <windows.h>
@@ -39,13 +40,11 @@ std::uint32_t ZELSysFile::GetSizeLow() const
 std::uint64_t ZELSysFile::GetLastWriteTime() const
 {
   FILETIME time;
-  if (!GetFileTime(AsHandle(_handle), nullptr, nullptr, &time))
-    return 0;
-  return static_cast<std::uint64_t>(time.dwHighDateTime) << 32 | time.dwLowDateTime;
+  return GetFileTime(AsHandle(_handle), nullptr, nullptr, &time) ? FileTimes::FromSystem(time) : 0;
 }
 
 bool ZELSysFile::SetLastWriteTime(std::uint64_t i_time)
 {
-  const FILETIME time = {static_cast<DWORD>(i_time), static_cast<DWORD>(i_time >> 32)};
+  const FILETIME time = FileTimes::ToSystem(i_time);
   return SetFileTime(AsHandle(_handle), nullptr, nullptr, &time) != 0;
 }

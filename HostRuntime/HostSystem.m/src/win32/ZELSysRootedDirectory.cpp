@@ -1,5 +1,9 @@
 #include "ZELSysRootedDirectory.h"
 
+#include "EntryNames.h"
+#include "FileTimes.h"
+#include "SettledTime.h"
+
 #include <string>
 #include <utility>
 #include <vector>
@@ -9,34 +13,14 @@
 
 namespace
 {
-constexpr std::intptr_t notOpen = -1;
-constexpr std::uint64_t ticksPerSecond = 10000000;
 constexpr ACCESS_MASK directoryAccess = FILE_LIST_DIRECTORY | FILE_TRAVERSE | FILE_READ_ATTRIBUTES | SYNCHRONIZE;
+// A colon would name a drive or a stream inside a file.
+constexpr std::string_view separators("/\\:\0", 4);
 constexpr ULONG shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 HANDLE AsHandle(std::intptr_t i_handle)
 {
   return reinterpret_cast<HANDLE>(i_handle);
-}
-
-// A colon would name a drive or a stream inside a file.
-bool IsEntryName(std::string_view i_name)
-{
-  return !i_name.empty() && i_name != "." && i_name != ".." && i_name.find_first_of(std::string_view("/\\:\0", 4)) == i_name.npos;
-}
-
-std::uint64_t GetTicks(const FILETIME& i_time)
-{
-  return static_cast<std::uint64_t>(i_time.dwHighDateTime) << 32 | i_time.dwLowDateTime;
-}
-
-// File systems count their times in steps of up to two seconds; the finer ones show a fraction.
-bool IsSettled(std::uint64_t i_changed)
-{
-  FILETIME now;
-  GetSystemTimeAsFileTime(&now);
-  const std::uint64_t step = i_changed % ticksPerSecond == 0 ? 2 * ticksPerSecond : ticksPerSecond / 20;
-  return i_changed + step < GetTicks(now);
 }
 
 ZELSysRootedDirectory::Kind GetKind(DWORD i_attributes)
@@ -62,18 +46,26 @@ std::intptr_t OpenEntry(std::intptr_t i_directory, std::string_view i_name, ACCE
   IO_STATUS_BLOCK status;
   const ULONG options = i_options | FILE_OPEN_REPARSE_POINT | FILE_SYNCHRONOUS_IO_NONALERT;
   const NTSTATUS result = NtCreateFile(&handle, i_access, &object, &status, nullptr, 0, shareAll, FILE_OPEN, options, nullptr, 0);
-  return result >= 0 ? reinterpret_cast<std::intptr_t>(handle) : notOpen;
+  return reinterpret_cast<std::intptr_t>(result >= 0 ? handle : INVALID_HANDLE_VALUE);
 }
 
 bool GetInformation(std::intptr_t i_handle, BY_HANDLE_FILE_INFORMATION& o_information)
 {
-  return i_handle != notOpen && GetFileInformationByHandle(AsHandle(i_handle), &o_information);
+  return GetFileInformationByHandle(AsHandle(i_handle), &o_information);
+}
+
+// The FAT file systems leave a directory's time alone when its entries change; of others nothing is known.
+bool TellsChanges(std::intptr_t i_handle)
+{
+  wchar_t system[MAX_PATH + 1] = {};
+  return GetVolumeInformationByHandleW(AsHandle(i_handle), nullptr, 0, nullptr, nullptr, nullptr, system, MAX_PATH + 1) &&
+         (std::wstring_view(system) == L"NTFS" || std::wstring_view(system) == L"ReFS");
 }
 
 void VisitEntry(const FILE_ID_BOTH_DIR_INFO& i_entry, const ZELSysRootedDirectory::Visitor& i_visitor)
 {
   const std::u16string_view wide(reinterpret_cast<const char16_t*>(i_entry.FileName), i_entry.FileNameLength / sizeof(char16_t));
-  if (wide == u"." || wide == u"..")
+  if (IsDots(wide))
     return;
   const ZELUnicodeString name = ZELUnicodeString::FromUTF16(wide);
   i_visitor(name.GetUTF8(), GetKind(i_entry.FileAttributes));
@@ -98,19 +90,7 @@ ZELSysRootedDirectory::ZELSysRootedDirectory(const ZELUnicodeString& i_path)
 {
   BY_HANDLE_FILE_INFORMATION information;
   if (!GetInformation(_handle, information) || !(information.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY))
-    *this = ZELSysRootedDirectory(notOpen);
-}
-
-ZELSysRootedDirectory::ZELSysRootedDirectory(std::intptr_t i_handle) noexcept : _handle(i_handle) {}
-
-ZELSysRootedDirectory::ZELSysRootedDirectory(ZELSysRootedDirectory&& io_other) noexcept : _handle(std::exchange(io_other._handle, notOpen))
-{
-}
-
-ZELSysRootedDirectory& ZELSysRootedDirectory::operator=(ZELSysRootedDirectory&& io_other) noexcept
-{
-  std::swap(_handle, io_other._handle);
-  return *this;
+    *this = ZELSysRootedDirectory(NotOpen);
 }
 
 ZELSysRootedDirectory::~ZELSysRootedDirectory()
@@ -119,26 +99,23 @@ ZELSysRootedDirectory::~ZELSysRootedDirectory()
     CloseHandle(AsHandle(_handle));
 }
 
-bool ZELSysRootedDirectory::IsOpen() const noexcept
-{
-  return _handle != notOpen;
-}
-
 ZELSysRootedDirectory ZELSysRootedDirectory::OpenDirectory(std::string_view i_name) const
 {
-  if (!IsOpen() || !IsEntryName(i_name))
-    return ZELSysRootedDirectory(notOpen);
+  if (!IsOpen() || !IsEntryName(i_name, separators))
+    return ZELSysRootedDirectory(NotOpen);
   ZELSysRootedDirectory directory(OpenEntry(_handle, i_name, directoryAccess, FILE_DIRECTORY_FILE));
   BY_HANDLE_FILE_INFORMATION information;
   const bool isServed = GetInformation(directory._handle, information) && GetKind(information.dwFileAttributes) == Directory;
-  return isServed ? std::move(directory) : ZELSysRootedDirectory(notOpen);
+  return isServed ? std::move(directory) : ZELSysRootedDirectory(NotOpen);
 }
 
 ZELSysRootedDirectory ZELSysRootedDirectory::Duplicate() const
 {
   HANDLE copy = INVALID_HANDLE_VALUE;
   const HANDLE process = GetCurrentProcess();
-  DuplicateHandle(process, AsHandle(_handle), process, &copy, 0, FALSE, DUPLICATE_SAME_ACCESS);
+  // The value of a handle that is not open means the process itself here.
+  if (IsOpen())
+    DuplicateHandle(process, AsHandle(_handle), process, &copy, 0, FALSE, DUPLICATE_SAME_ACCESS);
   return ZELSysRootedDirectory(reinterpret_cast<std::intptr_t>(copy));
 }
 
@@ -150,8 +127,8 @@ ZELSysRootedDirectory::Stamp ZELSysRootedDirectory::GetStamp() const
     return stamp;
   stamp.volume = information.dwVolumeSerialNumber;
   stamp.object = static_cast<std::uint64_t>(information.nFileIndexHigh) << 32 | information.nFileIndexLow;
-  stamp.lastWrite = stamp.lastChange = GetTicks(information.ftLastWriteTime);
-  stamp.isSettled = IsSettled(stamp.lastWrite);
+  stamp.lastWrite = stamp.lastChange = FileTimes::FromSystem(information.ftLastWriteTime);
+  stamp.isSettled = IsSettled(stamp.lastWrite) && TellsChanges(_handle);
   return stamp;
 }
 
@@ -168,7 +145,7 @@ bool ZELSysRootedDirectory::ForEachEntry(const Visitor& i_visitor) const
 
 bool ZELSysRootedDirectory::GetDetails(std::string_view i_name, Details& o_details) const
 {
-  if (!IsOpen() || !IsEntryName(i_name))
+  if (!IsOpen() || !IsEntryName(i_name, separators))
     return false;
   const ZELSysRootedDirectory entry(OpenEntry(_handle, i_name, FILE_READ_ATTRIBUTES | SYNCHRONIZE, 0));
   BY_HANDLE_FILE_INFORMATION information;
@@ -176,6 +153,6 @@ bool ZELSysRootedDirectory::GetDetails(std::string_view i_name, Details& o_detai
     return false;
   const bool isFile = GetKind(information.dwFileAttributes) == File;
   o_details.size = isFile ? static_cast<std::uint64_t>(information.nFileSizeHigh) << 32 | information.nFileSizeLow : 0;
-  o_details.lastWriteTime = GetTicks(information.ftLastWriteTime);
+  o_details.lastWriteTime = FileTimes::FromSystem(information.ftLastWriteTime);
   return true;
 }
