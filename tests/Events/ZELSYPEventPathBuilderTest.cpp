@@ -1,0 +1,545 @@
+#include "ZELSYPEventPathBuilder.h"
+
+#include "RecordingFailureHandler.h"
+#include "RouteWorld.h"
+#include "ZELSYPEventHandlerInfo.h"
+
+#include <gmock/gmock.h>
+
+#include <memory>
+#include <optional>
+#include <stdexcept>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace
+{
+class ZELSYPEventPathBuilderTest : public testing::Test, protected RouteWorld
+{
+protected:
+  // One handler on each of the three.
+  void ListenEverywhere()
+  {
+    Listen(*_root, "root");
+    Listen(*_leaf, "leaf");
+    Listen(*_parent, "parent");
+  }
+
+  RecordingFailureHandler _failures;
+};
+
+// A builder whose answers a test gives.
+class ScriptedBuilder : public ZELSYPEventPathBuilder
+{
+public:
+  using ZELSYPEventPathBuilder::NO_ELEMENT;
+
+  std::function<ZELSYPEventPathElt*(ZELBaseUnknown*)> _buildElement = [](ZELBaseUnknown*) { return NO_ELEMENT(); };
+  std::function<ZELBaseUnknown*(ZELBaseUnknown*)> _getParent = [](ZELBaseUnknown*) { return nullptr; };
+
+private:
+  ZELSYPEventPathElt* BuildElement(ZELSYPEventArgs*, ZELBaseUnknown* i_pNode) override { return _buildElement(i_pNode); }
+  ZELBaseUnknown* GetParent(ZELSYPEventArgs*, ZELBaseUnknown* i_pNode) override { return _getParent(i_pNode); }
+};
+
+// Arguments that do not say what class they are of.
+class ClasslessArgs : public ZELSYPEventArgs
+{
+public:
+  using ZELSYPEventArgs::ZELSYPEventArgs;
+  ZELMetaClass* GetMetaObject() const override { return nullptr; }
+};
+
+std::vector<const ZELBaseUnknown*> NodesOf(const ZELSYPEventPath& i_path)
+{
+  std::vector<const ZELBaseUnknown*> nodes;
+  for (int index = 0; index < i_path.GetElementCount(); ++index)
+    nodes.push_back(i_path.GetElement(index)->GetNode());
+  return nodes;
+}
+} // namespace
+
+TEST_F(ZELSYPEventPathBuilderTest, OriginToRootRunsFromTheOriginUp)
+{
+  ListenEverywhere();
+  EXPECT_EQ(1, Raise(*_leaf));
+  EXPECT_THAT(_log, ElementsAre("leaf", "parent", "root"));
+  EXPECT_THAT(_failures.GetMessages(), IsEmpty());
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, RootToOriginRunsFromTheRootDown)
+{
+  _pEvent = _pDown;
+  ListenEverywhere();
+  EXPECT_EQ(1, Raise(*_leaf));
+  EXPECT_THAT(_log, ElementsAre("root", "parent", "leaf"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, NoPropagationRunsAtTheOriginOnlyAlthoughThereIsAParent)
+{
+  _pEvent = _pHere;
+  ListenEverywhere();
+  EXPECT_EQ(1, Raise(*_leaf));
+  EXPECT_THAT(_log, ElementsAre("leaf"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, RouteBeginsAtTheOriginNotAtTheLeaf)
+{
+  ListenEverywhere();
+  EXPECT_EQ(1, Raise(*_parent));
+  EXPECT_THAT(_log, ElementsAre("parent", "root"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, EventsDoNotMix)
+{
+  ListenEverywhere();
+  _pEvent = _pDown;
+  Listen(*_leaf, "down");
+  EXPECT_EQ(1, Raise(*_leaf));
+  EXPECT_THAT(_log, ElementsAre("down"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, NobodyListensAndTheDispatchSucceeds)
+{
+  EXPECT_EQ(1, Raise(*_leaf));
+  EXPECT_THAT(_log, IsEmpty());
+  EXPECT_THAT(_failures.GetMessages(), IsEmpty());
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, HandlerIsGivenItsNodeAndTheArguments)
+{
+  ZELSYPEventArgs args(_pEvent);
+  ZELSYPEventArgs* pSeen = nullptr;
+  LoggingHandler* const pHandler = Listen(*_root, "root", [&](ZELBaseUnknown*, ZELSYPEventArgs* i_pArgs) { pSeen = i_pArgs; });
+  EXPECT_EQ(1, WidgetBuilder().Dispatch(_leaf, &args));
+  EXPECT_THAT(pHandler->_nodes, ElementsAre(_root.Get()));
+  EXPECT_EQ(&args, pSeen);
+  EXPECT_EQ(_leaf.Get(), args.GetOrigin());
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, AtANodeClassHandlersRunFirstMostDerivedClassFirst)
+{
+  Listen(*_leaf, "leaf 1");
+  Listen(ZELBaseUnknown::MetaObject(), "any object");
+  Listen(Widget::MetaObject(), "widget");
+  Listen(Button::MetaObject(), "button");
+  Listen(Panel::MetaObject(), "panel");
+  Listen(*_leaf, "leaf 2");
+  _pEvent = _pHere;
+  Listen(Button::MetaObject(), "of another event");
+  _pEvent = _pUp;
+  EXPECT_EQ(1, Raise(*_leaf));
+  EXPECT_THAT(_log, ElementsAre("button", "panel", "widget", "any object", "leaf 1", "leaf 2", // at the leaf
+                                "panel", "widget", "any object",                               // at the parent
+                                "widget", "any object"));                                      // at the root
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, ClassHandlersAreGivenEachNodeInTurn)
+{
+  _pEvent = _pDown;
+  LoggingHandler* const pHandler = Listen(Widget::MetaObject(), "widget");
+  EXPECT_EQ(1, Raise(*_leaf));
+  EXPECT_THAT(pHandler->_nodes, ElementsAre(_root.Get(), _parent.Get(), _leaf.Get()));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, ClassHandlersGoWithTheClassOfTheNodeWhereverItStands)
+{
+  const auto outer = ZELHandle<Button>::Adopt(new Button);
+  const auto middle = ZELHandle<Button>::Adopt(new Button(outer));
+  const auto inner = ZELHandle<Widget>::Adopt(new Widget(middle));
+  Listen(Button::MetaObject(), "button");
+  Listen(*inner, "inner");
+  EXPECT_EQ(1, Raise(*inner));
+  EXPECT_THAT(_log, ElementsAre("inner", "button", "button"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, ConsumedArgumentsReachOnlyThoseWhoHandleConsumedEvents)
+{
+  const auto consume = [](ZELBaseUnknown*, ZELSYPEventArgs* i_pArgs) { i_pArgs->Consume(); };
+  Listen(*_leaf, "first", consume);
+  Listen(*_leaf, "not any more");
+  Listen(*_leaf, "all the same", nullptr, 1);
+  Listen(Panel::MetaObject(), "at the leaf, as its class says");
+  Listen(*_parent, "no");
+  Listen(*_root, "the root, too", nullptr, -1);
+  EXPECT_EQ(1, Raise(*_leaf));
+  EXPECT_THAT(_log, ElementsAre("at the leaf, as its class says", "first", "all the same", "the root, too"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, ArgumentsConsumedBeforehandReachOnlyThoseWhoHandleConsumedEvents)
+{
+  ZELSYPEventArgs args(_pEvent);
+  args.Consume();
+  Listen(*_leaf, "no");
+  Listen(*_parent, "yes", nullptr, 1);
+  EXPECT_EQ(1, WidgetBuilder().Dispatch(_leaf, &args));
+  EXPECT_THAT(_log, ElementsAre("yes"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, HandlerThatRemovesItselfAndTheNextOneChangesTheNextDispatchOnly)
+{
+  LoggingHandler* pNext = nullptr;
+  LoggingHandler* pSelf = nullptr;
+  pSelf = Listen(*_leaf, "self",
+                 [&](ZELBaseUnknown*, ZELSYPEventArgs*)
+                 {
+                   EXPECT_EQ(1, _leaf->_handlers.RemoveHandler(_pUp, pSelf));
+                   EXPECT_EQ(1, _leaf->_handlers.RemoveHandler(_pUp, pNext));
+                 });
+  pNext = Listen(*_leaf, "next");
+  Listen(*_leaf, "last");
+  Raise(*_leaf);
+  EXPECT_THAT(_log, ElementsAre("self", "next", "last"));
+  _log.clear();
+  Raise(*_leaf);
+  EXPECT_THAT(_log, ElementsAre("last"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, RemovedHandlerThatNobodyElseHoldsStillRunsInTheCurrentDispatch)
+{
+  Listen(*_leaf, "first",
+         [&](ZELBaseUnknown*, ZELSYPEventArgs*)
+         {
+           EXPECT_EQ(1, _root->_handlers.RemoveHandler(_pUp, _kept.back()));
+           _kept.pop_back();
+         });
+  Listen(*_root, "removed");
+  Raise(*_leaf);
+  EXPECT_THAT(_log, ElementsAre("first", "removed"));
+  EXPECT_EQ(1, CountedHandler::s_living);
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, HandlerAddedDuringADispatchRunsFromTheNextOneOn)
+{
+  Listen(*_leaf, "adds",
+         [&](ZELBaseUnknown*, ZELSYPEventArgs*)
+         {
+           Listen(*_leaf, "here");
+           Listen(*_root, "later on the route");
+           Listen(Widget::MetaObject(), "class");
+         });
+  Raise(*_leaf);
+  EXPECT_THAT(_log, ElementsAre("adds"));
+  _log.clear();
+  Raise(*_leaf);
+  EXPECT_THAT(_log, ElementsAre("class", "adds", "here", "class", "class", "later on the route"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, NestedDispatchSeesTheStoresAsTheyAreAndTheOuterOneItsSnapshot)
+{
+  bool nested = false;
+  Listen(*_leaf, "outer",
+         [&](ZELBaseUnknown*, ZELSYPEventArgs*)
+         {
+           if (nested)
+             return;
+           nested = true;
+           Listen(*_leaf, "added");
+           Raise(*_leaf);
+           _log.push_back("end of nested");
+         });
+  Listen(*_root, "root");
+  Raise(*_leaf);
+  EXPECT_THAT(_log, ElementsAre("outer", "outer", "added", "root", "end of nested", "root"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, StoreThatIsReplacedDuringADispatchChangesTheNextDispatchOnly)
+{
+  ZELSYPEventHandlersSupport other;
+  other.AddHandler(_pUp, Keep("other"), 0);
+  Listen(*_leaf, "leaf",
+         [&](ZELBaseUnknown*, ZELSYPEventArgs*)
+         {
+           _leaf->_handlers.ReplaceHandlers(other);
+           _root->_handlers.ReplaceHandlers(other);
+         });
+  Listen(*_root, "root");
+  Raise(*_leaf);
+  EXPECT_THAT(_log, ElementsAre("leaf", "root"));
+  _log.clear();
+  Raise(*_leaf);
+  EXPECT_THAT(_log, ElementsAre("other", "other"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, ParentThatChangesDuringADispatchLeavesTheRouteAsItIs)
+{
+  Listen(*_leaf, "leaf", [&](ZELBaseUnknown*, ZELSYPEventArgs*) { _leaf->_pParent = nullptr; });
+  Listen(*_root, "root");
+  Raise(*_leaf);
+  EXPECT_THAT(_log, ElementsAre("leaf", "root"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, NodesThatHandlersLetGoLiveUntilTheDispatchEnds)
+{
+  auto root = ZELHandle<Widget>::Adopt(new Widget);
+  auto leaf = ZELHandle<Widget>::Adopt(new Widget(root));
+  const int others = Widget::s_living - 2;
+  Listen(*leaf, "leaf", [&](ZELBaseUnknown*, ZELSYPEventArgs*) { root = nullptr; });
+  Listen(*root, "root",
+         [&](ZELBaseUnknown* i_pNode, ZELSYPEventArgs*)
+         {
+           EXPECT_STREQ("Widget", i_pNode->IsA());
+           EXPECT_EQ(others + 2, Widget::s_living);
+         });
+  Raise(*leaf);
+  EXPECT_THAT(_log, ElementsAre("leaf", "root"));
+  EXPECT_EQ(others + 1, Widget::s_living);
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, HandlerThatMustBeRemovedIsDroppedWhileTheRouteIsBuilt)
+{
+  Listen(*_leaf, "leaf");
+  Listen(*_root, "gone")->_mustBeRemoved = 1;
+  Listen(Button::MetaObject(), "gone, too")->_mustBeRemoved = 1;
+  Raise(*_leaf);
+  EXPECT_THAT(_log, ElementsAre("leaf"));
+  for (const auto& handler : _kept)
+    handler->_mustBeRemoved = 0;
+  _log.clear();
+  Raise(*_leaf);
+  EXPECT_THAT(_log, ElementsAre("leaf"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, HandlerThatBecomesUselessDuringADispatchStillRunsInIt)
+{
+  LoggingHandler* pLater = nullptr;
+  Listen(*_leaf, "leaf", [&](ZELBaseUnknown*, ZELSYPEventArgs*) { pLater->_mustBeRemoved = 1; });
+  pLater = Listen(*_root, "root");
+  Raise(*_leaf);
+  Raise(*_leaf);
+  EXPECT_THAT(_log, ElementsAre("leaf", "root", "leaf"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, HandlerThatThrowsEndsTheDispatchAndNothingIsKept)
+{
+  Listen(*_leaf, "leaf");
+  Listen(*_parent, "throws", [](ZELBaseUnknown*, ZELSYPEventArgs*) { throw std::runtime_error("no"); });
+  LoggingHandler* const pRoot = Listen(*_root, "root");
+  const int references = CountReferences(_root), held = CountReferences(pRoot), raised = CountReferences(_pUp);
+  EXPECT_THROW(Raise(*_leaf), std::runtime_error);
+  EXPECT_THAT(_log, ElementsAre("leaf", "throws"));
+  EXPECT_EQ(references, CountReferences(_root));
+  EXPECT_EQ(held, CountReferences(pRoot));
+  EXPECT_EQ(raised, CountReferences(_pUp));
+  EXPECT_EQ(1, CountReferences(_leaf));
+  EXPECT_EQ(1, _parent->_handlers.RemoveHandler(_pUp, _kept[1]));
+  Raise(*_leaf);
+  EXPECT_THAT(_log, ElementsAre("leaf", "throws", "leaf", "root"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, DispatchGivesBackEveryReference)
+{
+  LoggingHandler* const pHandler = Listen(*_leaf, "leaf");
+  Listen(Panel::MetaObject(), "panel");
+  const int held = CountReferences(pHandler), raised = CountReferences(_pUp);
+  Raise(*_leaf);
+  EXPECT_EQ(1, CountReferences(_leaf));
+  EXPECT_EQ(1, CountReferences(_parent));
+  EXPECT_EQ(1, CountReferences(_root));
+  EXPECT_EQ(held, CountReferences(pHandler));
+  EXPECT_EQ(raised, CountReferences(_pUp));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, PathShowsItsStopsTheirNodesAndTheirLists)
+{
+  LoggingHandler* const pPanel = Listen(Panel::MetaObject(), "panel");
+  LoggingHandler* const pLeaf = Listen(*_leaf, "leaf");
+  ZELSYPEventArgs args(_pEvent);
+  args.SetOrigin(_leaf);
+  const std::unique_ptr<ZELSYPEventPath> pPath(WidgetBuilder(&_classHandlers).BuildPath(&args));
+  ASSERT_NE(nullptr, pPath);
+  EXPECT_THAT(NodesOf(*pPath), ElementsAre(_leaf.Get(), _parent.Get()));
+  const ZELSYPEventPathElt& atLeaf = *pPath->GetElement(0);
+  ASSERT_EQ(2, atLeaf.GetListCount());
+  EXPECT_EQ(pPanel, atLeaf.GetList(0).Get(0)->GetHandler());
+  EXPECT_EQ(pLeaf, atLeaf.GetList(1).Get(0)->GetHandler());
+  EXPECT_EQ(1, pPath->GetElement(1)->GetListCount());
+  EXPECT_THAT(_log, IsEmpty());
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, PathOfANodeWithoutHandlersHasNoStopAndDoesNothing)
+{
+  ZELSYPEventArgs args(_pEvent);
+  args.SetOrigin(_leaf);
+  const std::unique_ptr<ZELSYPEventPath> pPath(WidgetBuilder().BuildPath(&args));
+  ASSERT_NE(nullptr, pPath);
+  EXPECT_EQ(0, pPath->GetElementCount());
+  pPath->Dispatch(&args);
+  EXPECT_THAT(_failures.GetMessages(), IsEmpty());
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, BuiltPathHoldsWhatItNeedsUntilItIsDeleted)
+{
+  Listen(*_leaf, "leaf");
+  ZELSYPEventArgs args(_pEvent);
+  args.SetOrigin(_leaf);
+  std::unique_ptr<ZELSYPEventPath> pPath(WidgetBuilder().BuildPath(&args));
+  EXPECT_EQ(3, CountReferences(_leaf));
+  EXPECT_EQ(1, CountReferences(_parent));
+  EXPECT_EQ(1, _leaf->_handlers.RemoveHandler(_pUp, _kept.back()));
+  _kept.clear();
+  pPath->Dispatch(&args);
+  pPath->Dispatch(&args);
+  EXPECT_THAT(_log, ElementsAre("leaf", "leaf"));
+  pPath = nullptr;
+  EXPECT_EQ(2, CountReferences(_leaf));
+  EXPECT_EQ(0, CountedHandler::s_living);
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, OneAfterTheOtherTheNodesAreAskedForTheirParentsThenForTheirStops)
+{
+  ScriptedBuilder builder;
+  builder._getParent = [&](ZELBaseUnknown* i_pNode)
+  {
+    _log.push_back(std::string("parent of ") + i_pNode->IsA());
+    return static_cast<Widget*>(i_pNode)->_pParent;
+  };
+  builder._buildElement = [&](ZELBaseUnknown* i_pNode)
+  {
+    _log.push_back(std::string("stop at ") + i_pNode->IsA());
+    return ScriptedBuilder::NO_ELEMENT();
+  };
+  ZELSYPEventArgs down(_pDown);
+  EXPECT_EQ(1, builder.Dispatch(_leaf, &down));
+  EXPECT_THAT(_log,
+              ElementsAre("parent of Button", "parent of Panel", "parent of Widget", "stop at Widget", "stop at Panel", "stop at Button"));
+  _log.clear();
+  ZELSYPEventArgs here(_pHere);
+  EXPECT_EQ(1, builder.Dispatch(_leaf, &here));
+  EXPECT_THAT(_log, ElementsAre("stop at Button"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, LongChainsAreWalkedToTheirEnd)
+{
+  std::vector<ZELHandle<Widget>> chain{_root};
+  while (chain.size() < 5000)
+    chain.push_back(ZELHandle<Widget>::Adopt(new Widget(chain.back())));
+  LoggingHandler* const pHandler = Listen(Widget::MetaObject(), "widget");
+  EXPECT_EQ(1, Raise(*chain.back()));
+  EXPECT_EQ(5000u, pHandler->_nodes.size());
+  EXPECT_EQ(chain.back().Get(), pHandler->_nodes.front());
+  EXPECT_EQ(_root.Get(), pHandler->_nodes.back());
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, DispatchWithoutOriginOrArgumentsIsRefused)
+{
+  ZELSYPEventArgs args(_pEvent);
+  EXPECT_EQ(0, ScriptedBuilder().Dispatch(nullptr, &args));
+  EXPECT_EQ(0, ScriptedBuilder().Dispatch(_leaf, nullptr));
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer i_pOrigin is NULL", "pointer i_pArgs is NULL"));
+  EXPECT_EQ("ZELSYPEventPathBuilder.cpp", _failures.GetFailures()[0].file);
+  EXPECT_EQ(nullptr, args.GetOrigin());
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, ArgumentsOfAnotherOriginAreRefusedAndNothingRuns)
+{
+  ListenEverywhere();
+  ZELSYPEventArgs args(_pEvent);
+  args.SetOrigin(_parent);
+  EXPECT_EQ(0, WidgetBuilder().Dispatch(_leaf, &args));
+  EXPECT_THAT(_log, IsEmpty());
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("boolean i_pOrigin->IsEqual(i_pArgs->GetOrigin()) is FALSE"));
+  EXPECT_EQ("The origin of the event is incorrect", _failures.GetFailures()[0].details);
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, ArgumentsOfTheSameOriginAreTakenAgain)
+{
+  ListenEverywhere();
+  ZELSYPEventArgs args(_pEvent);
+  EXPECT_EQ(1, WidgetBuilder().Dispatch(_parent, &args));
+  EXPECT_EQ(1, WidgetBuilder().Dispatch(_parent, &args));
+  EXPECT_THAT(_log, ElementsAre("parent", "root", "parent", "root"));
+  EXPECT_THAT(_failures.GetMessages(), IsEmpty());
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, RouteOfArgumentsWithoutOriginIsRefused)
+{
+  ZELSYPEventArgs args(_pEvent);
+  EXPECT_EQ(nullptr, ScriptedBuilder().BuildPath(nullptr));
+  EXPECT_EQ(nullptr, ScriptedBuilder().BuildPath(&args));
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer i_pArgs is NULL", "pointer i_pArgs->GetOrigin() is NULL"));
+  EXPECT_EQ("Can't dispatch, Origin has not been set on the event arguments", _failures.GetFailures()[1].details);
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, ArgumentsOfABaseClassAreRefused)
+{
+  ZELSYPEvent* const pDoorEvent = _factory.NewEvent("Door", ZELSYPEvent::OriginToRoot, DoorArgs::MetaObject(), Widget::MetaObject());
+  ZELSYPEventArgs args(pDoorEvent);
+  EXPECT_EQ(0, WidgetBuilder().Dispatch(_leaf, &args));
+  EXPECT_THAT(_failures.GetMessages(),
+              ElementsAre("The event expects argument of type DoorArgs but the dispatch arguments are of type ZELSYPEventArgs",
+                          "pointer pPath is NULL"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, ArgumentsOfADerivedClassAreTaken)
+{
+  ListenEverywhere();
+  DoorArgs args(_pEvent);
+  EXPECT_EQ(1, WidgetBuilder().Dispatch(_leaf, &args));
+  EXPECT_THAT(_log, ElementsAre("leaf", "parent", "root"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, ArgumentsWithoutEventAreRefused)
+{
+  ZELSYPEventArgs args(nullptr);
+  _failures.Clear();
+  EXPECT_EQ(0, WidgetBuilder().Dispatch(_leaf, &args));
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer pEvent is NULL", "pointer pPath is NULL"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, EventWithoutArgumentTypeAndArgumentsWithoutClassAreRefused)
+{
+  const auto event = ZELHandle<ZELSYPEvent>::Adopt(OpenFactory::MakeEvent("E", ZELSYPEvent::OriginToRoot, nullptr, Widget::MetaObject()));
+  ZELSYPEventArgs args(event);
+  ClasslessArgs classless(_pEvent);
+  _failures.Clear();
+  EXPECT_EQ(0, WidgetBuilder().Dispatch(_leaf, &args));
+  EXPECT_EQ(0, WidgetBuilder().Dispatch(_leaf, &classless));
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer pEventArgumentType is NULL", "pointer pPath is NULL",
+                                                   "pointer pArgsType is NULL", "pointer pPath is NULL"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, UnknownPropagationIsRefused)
+{
+  const auto event = ZELHandle<ZELSYPEvent>::Adopt(
+      OpenFactory::MakeEvent("E", static_cast<ZELSYPEvent::Propagation>(3), ZELSYPEventArgs::MetaObject(), Widget::MetaObject()));
+  ZELSYPEventArgs args(event);
+  EXPECT_EQ(0, WidgetBuilder().Dispatch(_leaf, &args));
+  EXPECT_THAT(_failures.GetMessages(),
+              ElementsAre("Unknown propagation mode", "boolean FillListOfNodes(nodes, i_pArgs) is FALSE", "pointer pPath is NULL"));
+  EXPECT_EQ("<invalid>", _failures.GetFailures()[0].details);
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, NodeThatGetsNoStopEndsTheRouteAndNothingRuns)
+{
+  ListenEverywhere();
+  ScriptedBuilder builder;
+  builder._getParent = [](ZELBaseUnknown* i_pNode) { return static_cast<Widget*>(i_pNode)->_pParent; };
+  builder._buildElement = [&](ZELBaseUnknown* i_pNode) -> ZELSYPEventPathElt*
+  {
+    if (i_pNode == _parent.Get())
+      return nullptr;
+    auto* const pElt = new ZELSYPEventPathElt(i_pNode);
+    pElt->AddList(static_cast<Widget*>(i_pNode)->_handlers.GetHandlersList(_pUp));
+    return pElt;
+  };
+  ZELSYPEventArgs args(_pUp);
+  EXPECT_EQ(0, builder.Dispatch(_leaf, &args));
+  EXPECT_THAT(_log, IsEmpty());
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer pElt is NULL", "pointer pPath is NULL"));
+  EXPECT_EQ("Implementation of BuildElement returned NULL", _failures.GetFailures()[0].details);
+  EXPECT_EQ(std::nullopt, _failures.GetFailures()[1].details);
+  EXPECT_EQ(1, CountReferences(_root));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, StopForNothingIsOneObjectWithoutListsForEver)
+{
+  ZELSYPEventPathElt* const pNothing = ScriptedBuilder::NO_ELEMENT();
+  EXPECT_EQ(pNothing, ScriptedBuilder::NO_ELEMENT());
+  EXPECT_EQ(pNothing, WidgetBuilder::NO_ELEMENT());
+  EXPECT_EQ(0, pNothing->GetListCount());
+  EXPECT_STREQ("ZELBaseUnknown", pNothing->GetNode()->IsA());
+  Raise(*_leaf);
+  EXPECT_EQ(1, CountReferences(pNothing->GetNode()));
+}
