@@ -6,6 +6,7 @@
 #define ZELSYPClassEventHandlersSupport_H
 
 #include "OPXCoreToolsExport.h"
+#include "ZELSYPArray.h"
 #include "ZELSYPHashMap.h"
 
 class ZELMetaClass;
@@ -31,12 +32,28 @@ public:
   ZELSYPEventHandlersSupport* GetClassHandlersSupport(ZELMetaClass* i_pClass);
 
 private:
+  friend class ZELSYPSupportsEventPathBuilder;
   typedef ZELSYPHashMap<ZELMetaClass*, ZELSYPEventHandlersSupport*> SupportsByClass;
+  typedef ZELSYPArray<ZELSYPEventHandlersSupport*> Chain;
 
+  // The stores of a class and its base classes, most derived class first: the one at i_index, or null past the last.
+  ZELSYPEventHandlersSupport* GetInChain(ZELMetaClass* i_pClass, int i_index)
+  {
+    if (i_pClass != _pLastClass)
+      FindChain(i_pClass);
+    return _pLastChain && i_index < _pLastChain->GetLength() ? _pLastChain->begin()[i_index] : nullptr;
+  }
+  void FindChain(ZELMetaClass* i_pClass);
+  Chain MakeChain(ZELMetaClass* i_pClass);
+  void ForgetChains();
   ZELSYPEventHandlersSupport* FindOrAddSupport(ZELMetaClass* i_pClass);
   void Clear();
 
   SupportsByClass _supports;
+  // What was found out about the chains of classes; forgotten when a class gets its store.
+  ZELSYPHashMap<ZELMetaClass*, Chain> _chains;
+  ZELMetaClass* _pLastClass = nullptr;
+  const Chain* _pLastChain = nullptr;
 };
 
 #endif

@@ -48,6 +48,8 @@ public:
 
 private:
   friend class ZELSYPEventFactory;
+  friend class ZELSYPEventHandlersSupport;
+  friend class ZELSYPSupportsEventPathBuilder;
   // Reports what is wrong ("nameError == NULL" with the text of CheckEventName, "i_pOwnerClass", "i_pArgumentType",
   // "i_pArgumentType->IsAKindOf(ZELSYPEventArgs::MetaObject())"), and is built all the same.
   ZELSYPEvent(const char* i_name, Propagation i_propagation, ZELMetaClass* i_pArgumentType, ZELMetaClass* i_pOwnerClass);
@@ -57,6 +59,8 @@ private:
   const Propagation _propagation;
   ZELMetaClass* const _pArgumentType;
   ZELMetaClass* const _pOwnerClass;
+  // How many stores of handlers have a list for this event. None: nobody listens, wherever it is raised.
+  std::int32_t _storeCount = 0;
 };
 
 #endif

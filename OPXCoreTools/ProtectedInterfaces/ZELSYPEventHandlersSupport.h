@@ -45,8 +45,15 @@ private:
 
   ZELSYPEventHandlerInfoList* FindOrAddList(ZELSYPEvent* i_pEvent);
   void StoreList(ZELSYPEvent* i_pEvent, const ZELSYPEventHandlerInfoList& i_list);
+  static void ReleaseEvent(ZELSYPEvent& io_event);
   // The stored list once it is pruned, or null.
-  ZELSYPEventHandlerInfoList* FindPrunedList(ZELSYPEvent* i_pEvent);
+  ZELSYPEventHandlerInfoList* FindPrunedList(ZELSYPEvent* i_pEvent)
+  {
+    ZELSYPEventHandlerInfoList* const pList = _eventHandlers.Locate(i_pEvent);
+    if (pList)
+      pList->AutoRemove();
+    return pList;
+  }
   void CopyFrom(const ZELSYPEventHandlersSupport& i_support);
   void Clear();
 

@@ -9,10 +9,12 @@
 #include "OPXCoreToolsExport.h"
 #include "ZELBaseUnknown_var.h"
 #include "ZELSYPArray.h"
+#include "ZELSYPCheck.h"
 #include "ZELSYPEventHandlerInfoList.h"
 #include "ZELSYPRecycledBlocks.h"
 
 #include <cstddef>
+#include <utility>
 
 class ZELSYPEventArgs;
 class ZELSYPEventHandler;
@@ -21,13 +23,18 @@ class OPXCORETOOLS_EXPORT ZELSYPEventPathElt
 {
 public:
   // No node: "i_spNode"; the stop is there, and runs nothing.
-  explicit ZELSYPEventPathElt(ZELBaseUnknown_var i_spNode);
+  explicit ZELSYPEventPathElt(ZELBaseUnknown_var i_spNode) : _spNode(std::move(i_spNode)) { CheckNode(); }
   ZELSYPEventPathElt(const ZELSYPEventPathElt&) = delete;
   ZELSYPEventPathElt& operator=(const ZELSYPEventPathElt&) = delete;
   virtual ~ZELSYPEventPathElt();
 
   // Puts a snapshot of the list at the end.
-  void AddList(const ZELSYPEventHandlerInfoList& i_list);
+  void AddList(const ZELSYPEventHandlerInfoList& i_list)
+  {
+    if (_lists.GetCapacity() == 0)
+      _lists.SetCapacity(UsualLists);
+    _lists.Append(i_list);
+  }
   // Runs the handlers, list by list and in each in the order of registration; those of consumed arguments only that asked
   // for them, which is looked at before each one. No node ("_spNode") or no arguments ("i_pArgs"): nothing runs. A
   // registration that is null ("pInfo") or has no handler ("pHandler") ends this stop. What a handler throws goes through.
@@ -43,9 +50,14 @@ public:
   static void operator delete(void* i_pMemory) noexcept { ZELSYPRecycledBlocks::GiveBack(i_pMemory); }
 
 private:
+  enum
+  {
+    UsualLists = 4
+  };
+
+  void CheckNode() const { ZELSYP_CHECK_REPORT(_spNode, Check_Handler_Failed__, "i_spNode", __LINE__, nullptr); }
   bool RunList(int i_list, ZELSYPEventArgs& io_args) const;
   void RunObserved(int i_list, int i_index, ZELSYPEventHandlerInfo& i_info, ZELSYPEventArgs& io_args) const;
-  static bool MayRun(const ZELSYPEventHandlerInfo& i_info, const ZELSYPEventArgs& i_args);
 
   ZELBaseUnknown_var _spNode;
   ZELSYPArray<ZELSYPEventHandlerInfoList, ZELSYPRecycledBlocks> _lists;

@@ -30,6 +30,8 @@ protected:
   ZELSYPEventPathElt* BuildElement(ZELSYPEventArgs* i_pArgs, ZELBaseUnknown* i_pNode) override;
 
 private:
+  static ZELSYPEventPathElt* BuildStop(ZELSYPEvent& i_event, ZELBaseUnknown& i_node, ZELSYPEventHandlersSupport& io_support,
+                                       ZELSYPClassEventHandlersSupport& io_classSupport);
   // The stores of the node, borrowed.
   virtual ZELSYPEventHandlersSupport* GetSupportForNode(ZELBaseUnknown* i_pNode) = 0;
   virtual ZELSYPClassEventHandlersSupport* GetClassSupportForNode(ZELBaseUnknown* i_pNode) = 0;

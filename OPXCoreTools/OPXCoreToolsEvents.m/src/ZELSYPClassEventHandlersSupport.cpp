@@ -1,5 +1,6 @@
 #include "ZELSYPClassEventHandlersSupport.h"
 
+#include "ZELMetaClass.h"
 #include "ZELSYPArray.h"
 #include "ZELSYPCheck.h"
 #include "ZELSYPEventHandlersSupport.h"
@@ -47,7 +48,34 @@ ZELSYPEventHandlersSupport* ZELSYPClassEventHandlersSupport::FindOrAddSupport(ZE
   if (ZELSYPEventHandlersSupport* const* const pEntry = _supports.Locate(i_pClass))
     return *pEntry;
   std::unique_ptr<ZELSYPEventHandlersSupport> pSupport = std::make_unique<ZELSYPEventHandlersSupport>();
-  return _supports.Set(i_pClass, pSupport.get()) == 1 ? pSupport.release() : nullptr;
+  if (_supports.Set(i_pClass, pSupport.get()) != 1)
+    return nullptr;
+  ForgetChains();
+  return pSupport.release();
+}
+
+void ZELSYPClassEventHandlersSupport::FindChain(ZELMetaClass* i_pClass)
+{
+  if (!_chains.Locate(i_pClass))
+    _chains.Set(i_pClass, MakeChain(i_pClass));
+  _pLastChain = _chains.Locate(i_pClass);
+  _pLastClass = i_pClass;
+}
+
+ZELSYPClassEventHandlersSupport::Chain ZELSYPClassEventHandlersSupport::MakeChain(ZELMetaClass* i_pClass)
+{
+  Chain chain;
+  for (ZELMetaClass* pClass = i_pClass; pClass; pClass = pClass->GetBaseClass())
+    if (ZELSYPEventHandlersSupport* const pSupport = GetClassHandlersSupport(pClass))
+      chain.Append(pSupport);
+  return chain;
+}
+
+void ZELSYPClassEventHandlersSupport::ForgetChains()
+{
+  _chains.RemoveAll();
+  _pLastClass = nullptr;
+  _pLastChain = nullptr;
 }
 
 // The stores go last: a handler that dies with its store may call back, and finds nothing here any more.
@@ -64,6 +92,7 @@ void ZELSYPClassEventHandlersSupport::Clear()
       supports.Append(pEntry->_value);
   }
   _supports.RemoveAll();
+  ForgetChains();
   for (ZELSYPEventHandlersSupport* const pSupport : supports)
     delete pSupport;
   ZELSYP_CHECK_TRUE(_supports.GetSize() == 0);

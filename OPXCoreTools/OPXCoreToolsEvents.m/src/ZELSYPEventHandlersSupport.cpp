@@ -113,16 +113,16 @@ ZELSYPEventHandlerInfoList* ZELSYPEventHandlersSupport::FindOrAddList(ZELSYPEven
 
 void ZELSYPEventHandlersSupport::StoreList(ZELSYPEvent* i_pEvent, const ZELSYPEventHandlerInfoList& i_list)
 {
-  if (_eventHandlers.Set(i_pEvent, i_list) == 1)
-    i_pEvent->AddRef();
+  if (_eventHandlers.Set(i_pEvent, i_list) != 1)
+    return;
+  i_pEvent->AddRef();
+  ++i_pEvent->_storeCount;
 }
 
-ZELSYPEventHandlerInfoList* ZELSYPEventHandlersSupport::FindPrunedList(ZELSYPEvent* i_pEvent)
+void ZELSYPEventHandlersSupport::ReleaseEvent(ZELSYPEvent& io_event)
 {
-  ZELSYPEventHandlerInfoList* const pList = _eventHandlers.Locate(i_pEvent);
-  if (pList)
-    pList->AutoRemove();
-  return pList;
+  --io_event._storeCount;
+  io_event.Release();
 }
 
 // The lists go last: a handler that dies with its list may call back, and finds nothing here any more.
@@ -137,7 +137,7 @@ void ZELSYPEventHandlersSupport::Clear()
       break;
     lists.Append(pEntry->_value);
     if (ZELSYP_CHECK_REPORT(pEntry->_key, Check_Pointer_Failed__, "pEntry->key", __LINE__, nullptr))
-      pEntry->_key->Release();
+      ReleaseEvent(*pEntry->_key);
   }
   _eventHandlers.RemoveAll();
   ZELSYP_CHECK_TRUE(_eventHandlers.GetSize() == 0);

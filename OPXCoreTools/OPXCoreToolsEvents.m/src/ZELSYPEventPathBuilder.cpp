@@ -125,6 +125,7 @@ int ZELSYPEventPathBuilder::AddChain(Nodes& io_list, ZELSYPEventArgs& i_args, ZE
 ZELSYPEventPath* ZELSYPEventPathBuilder::BuildElements(ZELSYPEventArgs& i_args, const Nodes& i_nodes)
 {
   std::unique_ptr<ZELSYPEventPath> pPath = std::make_unique<ZELSYPEventPath>();
+  const ZELSYPEventPathElt* const pNoElement = NO_ELEMENT();
   for (const ZELBaseUnknown_var& spNode : i_nodes)
   {
     if (!ZELSYP_CHECK_HANDLER(spNode))
@@ -132,7 +133,7 @@ ZELSYPEventPath* ZELSYPEventPathBuilder::BuildElements(ZELSYPEventArgs& i_args, 
     ZELSYPEventPathElt* const pElt = BuildElement(&i_args, spNode.Get());
     if (!ZELSYP_CHECK_POINTER_DETAILS(pElt, "Implementation of BuildElement returned NULL"))
       return nullptr;
-    if (pElt != NO_ELEMENT())
+    if (pElt != pNoElement)
       pPath->AddElement(pElt);
   }
   return pPath.release();

@@ -7,12 +7,14 @@
 #include "ZELSYPEventHandlerInfo.h"
 
 #include <new>
-#include <utility>
 
-ZELSYPEventPathElt::ZELSYPEventPathElt(ZELBaseUnknown_var i_spNode) : _spNode(std::move(i_spNode))
+namespace
 {
-  ZELSYP_CHECK_REPORT(_spNode, Check_Handler_Failed__, "i_spNode", __LINE__, nullptr);
+bool MayRun(const ZELSYPEventHandlerInfo& i_info, const ZELSYPEventArgs& i_args)
+{
+  return i_info.GetHandleConsumedEvents() != 0 || !i_args.IsConsumed();
 }
+} // namespace
 
 ZELSYPEventPathElt::~ZELSYPEventPathElt() = default;
 
@@ -21,11 +23,6 @@ void* ZELSYPEventPathElt::operator new(std::size_t i_bytes)
   if (void* const pMemory = ZELSYPRecycledBlocks::Take(i_bytes))
     return pMemory;
   throw std::bad_alloc();
-}
-
-void ZELSYPEventPathElt::AddList(const ZELSYPEventHandlerInfoList& i_list)
-{
-  _lists.Append(i_list);
 }
 
 void ZELSYPEventPathElt::Dispatch(ZELSYPEventArgs* i_pArgs) const
@@ -64,9 +61,4 @@ void ZELSYPEventPathElt::RunObserved(int i_list, int i_index, ZELSYPEventHandler
   ZELSYPDispatchObserver::Tell(&ZELSYPDispatchObserver::HandlerRuns, step);
   i_info.GetHandler()->Handle(_spNode.Get(), &io_args);
   ZELSYPDispatchObserver::Tell(&ZELSYPDispatchObserver::HandlerRan, step);
-}
-
-bool ZELSYPEventPathElt::MayRun(const ZELSYPEventHandlerInfo& i_info, const ZELSYPEventArgs& i_args)
-{
-  return i_info.GetHandleConsumedEvents() != 0 || !i_args.IsConsumed();
 }

@@ -32,7 +32,7 @@ struct Kept
   Block* _lists[KindCount];
   bool _threadEnds;
 };
-thread_local Kept t_kept;
+[[gnu::tls_model("initial-exec")]] thread_local Kept t_kept;
 
 struct KeptUntilThreadEnds
 {

@@ -1,8 +1,8 @@
 #include "ZELSYPSupportsEventPathBuilder.h"
 
-#include "ZELMetaClass.h"
 #include "ZELSYPCheck.h"
 #include "ZELSYPClassEventHandlersSupport.h"
+#include "ZELSYPEvent.h"
 #include "ZELSYPEventArgs.h"
 #include "ZELSYPEventHandlersSupport.h"
 
@@ -12,13 +12,13 @@ namespace
 {
 typedef std::unique_ptr<ZELSYPEventPathElt> Element;
 
-void AddList(Element& io_pElement, ZELBaseUnknown* i_pNode, const ZELSYPEventHandlerInfoList& i_list)
+void AddList(Element& io_pElement, ZELBaseUnknown* i_pNode, const ZELSYPEventHandlerInfoList* i_pList)
 {
-  if (i_list.GetSize() == 0)
+  if (!i_pList || i_pList->GetSize() == 0)
     return;
   if (!io_pElement)
     io_pElement = std::make_unique<ZELSYPEventPathElt>(i_pNode);
-  io_pElement->AddList(i_list);
+  io_pElement->AddList(*i_pList);
 }
 } // namespace
 
@@ -47,12 +47,22 @@ ZELSYPEventPathElt* ZELSYPSupportsEventPathBuilder::BuildElement(ZELSYPEventArgs
   ZELSYPClassEventHandlersSupport* const pClassSupport = GetClassSupportForNode(i_pNode);
   if (!ZELSYP_CHECK_POINTER(pSupport) || !ZELSYP_CHECK_POINTER(pClassSupport))
     return nullptr;
+  ZELSYPEventPathElt* const pElement = pEvent->_storeCount != 0 ? BuildStop(*pEvent, *i_pNode, *pSupport, *pClassSupport) : nullptr;
+  return pElement ? pElement : NO_ELEMENT();
+}
+
+// Null when there is nothing to run. The sentinels are stores like any other, without handlers.
+ZELSYPEventPathElt* ZELSYPSupportsEventPathBuilder::BuildStop(ZELSYPEvent& i_event, ZELBaseUnknown& i_node,
+                                                              ZELSYPEventHandlersSupport& io_support,
+                                                              ZELSYPClassEventHandlersSupport& io_classSupport)
+{
   Element pElement;
-  if (pClassSupport != NO_CLASS_SUPPORT())
-    for (ZELMetaClass* pClass = i_pNode->GetMetaObject(); pClass; pClass = pClass->GetBaseClass())
-      if (ZELSYPEventHandlersSupport* const pOfClass = pClassSupport->GetClassHandlersSupport(pClass))
-        AddList(pElement, i_pNode, pOfClass->GetHandlersList(pEvent));
-  if (pSupport != NO_SUPPORT())
-    AddList(pElement, i_pNode, pSupport->GetHandlersList(pEvent));
-  return pElement ? pElement.release() : NO_ELEMENT();
+  if (io_classSupport._supports.GetSize() != 0)
+  {
+    ZELMetaClass* const pClass = i_node.GetMetaObject();
+    for (int index = 0; ZELSYPEventHandlersSupport* const pOfClass = io_classSupport.GetInChain(pClass, index); ++index)
+      AddList(pElement, &i_node, pOfClass->FindPrunedList(&i_event));
+  }
+  AddList(pElement, &i_node, io_support.FindPrunedList(&i_event));
+  return pElement.release();
 }
