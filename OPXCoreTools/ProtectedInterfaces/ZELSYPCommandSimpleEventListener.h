@@ -35,6 +35,10 @@ public:
   // answers and reports. 0, and nothing runs, class handlers neither, while no handler was ever added to this listener or
   // removed from it.
   int Dispatch(ZELSYPEventArgs* i_pArgs);
+  // The store of this listener's own handlers, null until the first one is added or removed, and the store of the class
+  // handlers, null likewise; borrowed.
+  ZELSYPEventHandlersSupport* GetHandlersSupport() const noexcept;
+  static ZELSYPClassEventHandlersSupport* GetClassHandlersSupport() noexcept;
 
 protected:
   // A command without father and name, or with those.

@@ -10,7 +10,7 @@
 
 #include "ZELSYPDetachableHandler.h"
 
-class ZELSYPSubscription
+class [[nodiscard]] ZELSYPSubscription
 {
 public:
   // Of nothing.

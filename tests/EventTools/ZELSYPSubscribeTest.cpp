@@ -2,6 +2,8 @@
 
 #include "EventWorld.h"
 #include "RecordingFailureHandler.h"
+#include "ZELSYPCommandSimpleEventListener.h"
+#include "ZELSYPEventSubscriberEventListener.h"
 #include "ZELSYPMakeMemberHandler.h"
 #include "ZELSYPMakeOnceHandler.h"
 
@@ -229,7 +231,7 @@ TEST_F(ZELSYPSubscribeTest, DoesNotFillAStoreWhoseEventIsNeverRaised)
   ZELSYPEventHandlersSupport support;
   const ZELSYPSubscription kept = ZELSYPSubscribe(support, Opened(), runs.Adding("kept"));
   for (int round = 0; round < 1000; ++round)
-    ZELSYPSubscribe(support, Opened(), runs.Adding("gone"));
+    ZELSYPSubscribe(support, Opened(), runs.Adding("gone")).End();
   EXPECT_THAT(support.GetHandlersCount(Opened()), Le(4));
   EXPECT_TRUE(kept.IsActive());
 }
@@ -237,7 +239,7 @@ TEST_F(ZELSYPSubscribeTest, DoesNotFillAStoreWhoseEventIsNeverRaised)
 TEST_F(ZELSYPSubscribeTest, DoesNotFillAListenerWhoseEventIsNeverRaised)
 {
   for (int round = 0; round < 1000; ++round)
-    ZELSYPSubscribe(*listener, Opened(), runs.Adding("gone"));
+    ZELSYPSubscribe(*listener, Opened(), runs.Adding("gone")).End();
   EXPECT_THAT(listener->GetHandlersSupport()->GetHandlersCount(Opened()), Le(4));
 }
 
@@ -314,6 +316,42 @@ TEST_F(ZELSYPSubscribeTest, ReportsAClassThatIsNull)
 TEST_F(ZELSYPSubscribeTest, DoesNotFillAClassWhoseEventIsNeverRaised)
 {
   for (int round = 0; round < 1000; ++round)
-    ZELSYPSubscribeClass<Other>(Opened(), runs.Adding("gone"));
+    ZELSYPSubscribeClass<Other>(Opened(), runs.Adding("gone")).End();
   EXPECT_THAT(Other::GetClassHandlersSupport()->GetClassHandlersSupport(Other::MetaObject())->GetHandlersCount(Opened()), Le(4));
+}
+
+// Every listener base is subscribed to in the same way.
+class Command : public ZELSYPCommandSimpleEventListener
+{
+  ZELDeclareClass;
+};
+ZELImplementClass(Command, ZELSYPCommandSimpleEventListener, EventTools_tests);
+class Caller : public ZELSYPEventSubscriberEventListener
+{
+  ZELDeclareClass;
+};
+ZELImplementClass(Caller, ZELSYPEventSubscriberEventListener, EventTools_tests);
+
+template <class AnyListener>
+class ZELSYPSubscribeToAnyListener : public testing::Test
+{
+};
+using AllListeners = testing::Types<Listener, Command, Caller>;
+TYPED_TEST_SUITE(ZELSYPSubscribeToAnyListener, AllListeners);
+
+TYPED_TEST(ZELSYPSubscribeToAnyListener, RunsClassHandlersAndItsOwnUntilTheyEnd)
+{
+  Runs runs;
+  TypeParam listener;
+  ZELSYPEventArgs args(Opened());
+  EXPECT_EQ(listener.GetHandlersSupport(), nullptr);
+  {
+    const ZELSYPSubscription own = ZELSYPSubscribe(listener, Opened(), runs.Adding("own"));
+    const ZELSYPSubscription ofClass = ZELSYPSubscribeClass<TypeParam>(Opened(), runs.Adding("class"));
+    EXPECT_EQ(listener.Dispatch(&args), 1);
+    EXPECT_EQ(listener.GetHandlersSupport()->GetHandlersCount(Opened()), 1);
+    EXPECT_NE(TypeParam::GetClassHandlersSupport()->GetClassHandlersSupport(TypeParam::MetaObject()), nullptr);
+  }
+  EXPECT_EQ(listener.Dispatch(&args), 1);
+  EXPECT_THAT(runs.Take(), ElementsAre("class", "own"));
 }

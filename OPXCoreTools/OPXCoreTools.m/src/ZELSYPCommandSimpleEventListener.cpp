@@ -41,6 +41,16 @@ int ZELSYPCommandSimpleEventListener::Dispatch(ZELSYPEventArgs* i_pArgs)
   return EventListening::Dispatch(this, i_pArgs, _pEventHandlersSupport, _pClassEventHandlersSupport);
 }
 
+ZELSYPEventHandlersSupport* ZELSYPCommandSimpleEventListener::GetHandlersSupport() const noexcept
+{
+  return _pEventHandlersSupport.get();
+}
+
+ZELSYPClassEventHandlersSupport* ZELSYPCommandSimpleEventListener::GetClassHandlersSupport() noexcept
+{
+  return _pClassEventHandlersSupport.get();
+}
+
 ZELSYPEventFactory* ZELSYPCommandSimpleEventListener::GetEventFactory()
 {
   static ZELSYPEventFactory s_factory;

@@ -36,6 +36,16 @@ int ZELSYPEventSubscriberEventListener::Dispatch(ZELSYPEventArgs* i_pArgs)
   return EventListening::Dispatch(this, i_pArgs, _pEventHandlersSupport, _pClassEventHandlersSupport);
 }
 
+ZELSYPEventHandlersSupport* ZELSYPEventSubscriberEventListener::GetHandlersSupport() const noexcept
+{
+  return _pEventHandlersSupport.get();
+}
+
+ZELSYPClassEventHandlersSupport* ZELSYPEventSubscriberEventListener::GetClassHandlersSupport() noexcept
+{
+  return _pClassEventHandlersSupport.get();
+}
+
 ZELSYPEventFactory* ZELSYPEventSubscriberEventListener::GetEventFactory()
 {
   static ZELSYPEventFactory s_factory;
