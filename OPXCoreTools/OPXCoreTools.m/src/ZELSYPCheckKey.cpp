@@ -1,6 +1,8 @@
 #include "ZELSYPCheckKey.h"
 
 #include <cstdio>
+#include <cstring>
+#include <new>
 
 namespace
 {
@@ -12,16 +14,23 @@ bool IsGiven(const T* i_pValue, int i_line)
   return i_pValue != nullptr;
 }
 
-const char* TextOf(const char* i_file)
+const char* EmptyUnlessGiven(const char* i_file)
 {
   if (IsGiven(i_file, __LINE__))
     return i_file;
   IsGiven(i_file, __LINE__); // Kept: a null text is printed twice.
   return "";
 }
+
+char* Copy(const char* i_text)
+{
+  const std::size_t size = std::strlen(i_text) + 1;
+  char* const pCopy = new (std::nothrow) char[size];
+  return pCopy ? std::strcpy(pCopy, i_text) : nullptr;
+}
 } // namespace
 
-ZELSYPCheckKey::ZELSYPCheckKey(const char* i_file, int i_line) : _file(TextOf(i_file)), _line(i_line) {}
+ZELSYPCheckKey::ZELSYPCheckKey(const char* i_file, int i_line) noexcept : _pFile(Copy(EmptyUnlessGiven(i_file))), _line(i_line) {}
 
 int ZELSYPCheckKey::Hash(const void* i_key)
 {
@@ -29,8 +38,8 @@ int ZELSYPCheckKey::Hash(const void* i_key)
     return 0;
   const ZELSYPCheckKey& key = *static_cast<const ZELSYPCheckKey*>(i_key);
   std::uint32_t hash = 0;
-  for (const char byte : key._file)
-    hash = hash * 31 + static_cast<std::uint32_t>(static_cast<signed char>(byte));
+  for (const char* byte = key._pFile.get(); *byte; ++byte)
+    hash = hash * 31 + static_cast<std::uint32_t>(static_cast<signed char>(*byte));
   return static_cast<int>(hash * 31 + static_cast<std::uint32_t>(key._line));
 }
 
@@ -42,5 +51,5 @@ int ZELSYPCheckKey::Compare(const void* i_left, const void* i_right)
     return 0;
   const ZELSYPCheckKey& left = *static_cast<const ZELSYPCheckKey*>(i_left);
   const ZELSYPCheckKey& right = *static_cast<const ZELSYPCheckKey*>(i_right);
-  return left._line == right._line && left._file == right._file ? 1 : 0;
+  return left._line == right._line && std::strcmp(left._pFile.get(), right._pFile.get()) == 0 ? 1 : 0;
 }

@@ -8,10 +8,11 @@
 #include <cstdio>
 #include <memory>
 #include <mutex>
+#include <new>
 
 namespace
 {
-const char* TextOf(const char* i_text)
+const char* EmptyIfNull(const char* i_text)
 {
   return i_text ? i_text : "";
 }
@@ -20,19 +21,31 @@ void PrintFailure(const char* i_message, const char* i_file, int i_line, const c
 {
   std::fflush(stdout);
   if (i_details)
-    std::fprintf(stderr, "\n** FAILURE %s:%d: %s\n           %s\n", TextOf(i_file), i_line, TextOf(i_message), i_details);
+    std::fprintf(stderr, "\n** FAILURE %s:%d: %s\n           %s\n", EmptyIfNull(i_file), i_line, EmptyIfNull(i_message), i_details);
   else
-    std::fprintf(stderr, "\n** FAILURE %s:%d: %s\n", TextOf(i_file), i_line, TextOf(i_message));
+    std::fprintf(stderr, "\n** FAILURE %s:%d: %s\n", EmptyIfNull(i_file), i_line, EmptyIfNull(i_message));
   std::fflush(stderr);
+}
+
+// A report goes on without the frames that it finds no memory for.
+void PrintFrames()
+{
+  try
+  {
+    ZELStackTrace trace;
+    trace.GetTrace();
+    trace.Print(stderr, 0, 0);
+  }
+  catch (const std::bad_alloc&)
+  {
+  }
 }
 
 void PrintStack()
 {
   std::fprintf(stderr, "\n   Trying to obtain the call stack:\n");
   std::fflush(stderr);
-  ZELStackTrace trace;
-  trace.GetTrace();
-  trace.Print(stderr, 0, 0);
+  PrintFrames();
   std::fflush(stderr);
 }
 
@@ -69,7 +82,7 @@ bool ZELSYPDefaultCheckFailureHandler::IsHidden(const char* i_file, int i_line)
 {
   const ZELSYPCheckKey key(i_file, i_line);
   std::lock_guard<ZELMutex> hold(_hiddenChecksLock);
-  return _hiddenChecks.Locate(&key) != nullptr;
+  return key.IsWhole() && _hiddenChecks.Locate(&key);
 }
 
 // False when there is no panel, and when its answer is to stop.
@@ -86,17 +99,17 @@ bool ZELSYPDefaultCheckFailureHandler::HasUserDecided(const char* i_message, con
 
 void ZELSYPDefaultCheckFailureHandler::Hide(const char* i_file, int i_line)
 {
-  std::fprintf(stderr, "\n   The user has decided to hide all other occurences of the check:\n   %s:%d\n", TextOf(i_file), i_line);
-  auto pKey = std::make_unique<ZELSYPCheckKey>(i_file, i_line);
-  const int inserted = Insert(*pKey);
+  std::fprintf(stderr, "\n   The user has decided to hide all other occurences of the check:\n   %s:%d\n", EmptyIfNull(i_file), i_line);
+  std::unique_ptr<ZELSYPCheckKey> pKey(new (std::nothrow) ZELSYPCheckKey(i_file, i_line));
+  const int inserted = Insert(pKey && pKey->IsWhole() ? pKey.get() : nullptr);
   if (inserted == 1)
     (void)pKey.release();
   else if (inserted != 0)
     std::fprintf(stderr, "Internal error in %s %d, Failed to insert element, rc is %d!\n", __FILE_NAME__, __LINE__, inserted);
 }
 
-int ZELSYPDefaultCheckFailureHandler::Insert(ZELSYPCheckKey& i_key)
+int ZELSYPDefaultCheckFailureHandler::Insert(ZELSYPCheckKey* i_pKey)
 {
   std::lock_guard<ZELMutex> hold(_hiddenChecksLock);
-  return _hiddenChecks.Insert(&i_key);
+  return _hiddenChecks.Insert(i_pKey);
 }

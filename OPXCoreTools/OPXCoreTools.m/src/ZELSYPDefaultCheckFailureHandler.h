@@ -19,7 +19,8 @@ protected:
 private:
   bool IsHidden(const char* i_file, int i_line);
   void Hide(const char* i_file, int i_line);
-  int Insert(ZELSYPCheckKey& i_key);
+  // Null: a key that found no memory, which the table refuses.
+  int Insert(ZELSYPCheckKey* i_pKey);
   bool HasUserDecided(const char* i_message, const char* i_file, int i_line, const char* i_details);
 
   ZELMutex _hiddenChecksLock{0, 0, 1};

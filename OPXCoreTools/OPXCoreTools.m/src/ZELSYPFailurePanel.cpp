@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <mutex>
+#include <new>
 
 namespace
 {
@@ -14,10 +15,23 @@ ZELSYPFailurePanel::Entry entry = nullptr;
 // The panel's library may fail checks of its own while it is loaded: there is no panel for those.
 thread_local bool lookingUp = false;
 
+// Without memory to look it up there is no panel.
+ZELFunctionAddress FindAddress()
+{
+  try
+  {
+    return ZELGetFunctionAddress("ZELSYPShowFailurePanelIfNeeded", "VisuDialog", nullptr, -1, 1, 0);
+  }
+  catch (const std::bad_alloc&)
+  {
+    return nullptr;
+  }
+}
+
 ZELSYPFailurePanel::Entry LookUp()
 {
   lookingUp = true;
-  const ZELFunctionAddress address = ZELGetFunctionAddress("ZELSYPShowFailurePanelIfNeeded", "VisuDialog", nullptr, -1, 1, 0);
+  const ZELFunctionAddress address = FindAddress();
   lookingUp = false;
   return reinterpret_cast<ZELSYPFailurePanel::Entry>(address);
 }

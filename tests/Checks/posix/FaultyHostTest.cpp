@@ -60,6 +60,23 @@ TEST_F(FaultyHostMemory, IsRefusedToAMessageAndTheExpressionIsReported)
   ExpectToGoOn(RunCase("FailWithoutMemoryForTheMessage"), "i_pNode, Some.cpp, 12\n", "** INTERNAL ERROR in ZELSYPCheck.cpp LINE\n");
 }
 
+TEST_F(FaultyHostMemory, IsRefusedToAHiddenCheckWhichIsNotHiddenThen)
+{
+  ExpectToGoOn(RunCase("FailWithoutAnyMemory", "2"), LookUp, Failure + Failure + Hidden + NotInserted);
+}
+
+TEST_F(FaultyHostMemory, IsRefusedToTheCallStackWhichIsLeftOut)
+{
+  ExpectToGoOn(RunCase("FailWithoutAnyMemory", "0"), LookUp + "break\n",
+               Failure + Failure + "\n   Trying to obtain the call stack:\n   there is a debugger, so calling DebugBreak to wake it.\n");
+}
+
+TEST(FaultyHost, FindsNoMemoryForThePanelOfWhichThereIsNoneThen)
+{
+  const std::string once = Failure + Woken;
+  ExpectToGoOn(RunCase("FailToLookThePanelUp"), LookUp + "break\nbreak\n", once + once);
+}
+
 TEST(FaultyHost, FailsToFormatAndWhatTheBufferHoldsIsReported)
 {
   ExpectToGoOn(RunCase("FailWithoutFormatting"), "pointer i_p, Some.cpp, 12\n", "** INTERNAL ERROR in ZELSYPCheck.cpp LINE\n");

@@ -19,10 +19,12 @@
 
 namespace
 {
+bool anythingGetsMemory = true;
 bool objectsGetMemory = true;
 bool arraysGetMemory = true;
 bool textsAreFormatted = true;
 bool eventsAreMade = true;
+bool lookUpFindsMemory = true;
 bool tablesPassNullKeys = false;
 bool tablesPrintHashes = false;
 // Below 0: there is no panel.
@@ -34,14 +36,30 @@ int AnswerAsThePanel(const char*, const char*, int, const char*)
 }
 } // namespace
 
+void* operator new(std::size_t i_bytes)
+{
+  void* const pMemory = anythingGetsMemory ? std::malloc(i_bytes) : nullptr;
+  return pMemory ? pMemory : throw std::bad_alloc();
+}
+
+void operator delete(void* i_pMemory) noexcept
+{
+  std::free(i_pMemory);
+}
+
+void operator delete(void* i_pMemory, std::size_t) noexcept
+{
+  std::free(i_pMemory);
+}
+
 void* operator new(std::size_t i_bytes, const std::nothrow_t&) noexcept
 {
-  return objectsGetMemory ? ::operator new(i_bytes) : nullptr;
+  return anythingGetsMemory && objectsGetMemory ? std::malloc(i_bytes) : nullptr;
 }
 
 void* operator new[](std::size_t i_bytes, const std::nothrow_t&) noexcept
 {
-  return arraysGetMemory ? ::operator new[](i_bytes) : nullptr;
+  return anythingGetsMemory && arraysGetMemory ? std::malloc(i_bytes) : nullptr;
 }
 
 // Out of order, it has written a part of the text when it fails.
@@ -78,6 +96,8 @@ ZELFunctionAddress ZELGetFunctionAddress(const char* i_function, const char* i_l
                                          int i_report)
 {
   std::printf("looked up %s, %s, %s, %d, %d, %d\n", i_function, i_library, i_alias ? i_alias : "null", i_version, i_load, i_report);
+  if (!lookUpFindsMemory)
+    throw std::bad_alloc();
   return panelAnswer < 0 ? nullptr : reinterpret_cast<ZELFunctionAddress>(&AnswerAsThePanel);
 }
 
@@ -153,6 +173,24 @@ void FailWithoutMemoryForTheMessage(const char*)
   arraysGetMemory = true;
 }
 
+// The handler is there already: a panel answered its first failure.
+void FailWithoutAnyMemory(const char* i_panelAnswer)
+{
+  panelAnswer = 1;
+  FailOnce(nullptr);
+  panelAnswer = std::atoi(i_panelAnswer);
+  anythingGetsMemory = false;
+  FailOnce(nullptr);
+  anythingGetsMemory = true;
+}
+
+void FailToLookThePanelUp(const char*)
+{
+  lookUpFindsMemory = false;
+  FailOnce(nullptr);
+  FailOnce(nullptr);
+}
+
 void FailWithoutFormatting(const char*)
 {
   textsAreFormatted = false;
@@ -213,6 +251,8 @@ struct Case
 const Case cases[] = {{"AskForMemory", &AskForMemory},
                       {"FailWithoutMemoryForTheHandler", &FailWithoutMemoryForTheHandler},
                       {"FailWithoutMemoryForTheMessage", &FailWithoutMemoryForTheMessage},
+                      {"FailWithoutAnyMemory", &FailWithoutAnyMemory},
+                      {"FailToLookThePanelUp", &FailToLookThePanelUp},
                       {"FailWithoutFormatting", &FailWithoutFormatting},
                       {"FailWithoutAnEvent", &FailWithoutAnEvent},
                       {"WaitWithoutAnEvent", &WaitWithoutAnEvent},
