@@ -7,7 +7,7 @@
 #ifndef ZELExtension_H
 #define ZELExtension_H
 
-#include "ZELBaseUnknown.h"
+#include "ZELHandle.h"
 
 #include <utility>
 
@@ -48,10 +48,11 @@ Extension* ZELAttachExtension(ZELBaseUnknown* i_pOwner, Arguments&&... i_argumen
 {
   if (!i_pOwner)
     return nullptr;
-  Extension* const pExtension = new Extension(std::forward<Arguments>(i_arguments)...);
-  pExtension->_pOwner = i_pOwner->GetImpl(0);
-  ZELExtensionTable::Attach(*pExtension->_pOwner, *pExtension);
-  return pExtension;
+  ZELBaseUnknown* const pOwner = i_pOwner->GetImpl(0);
+  auto extension = ZELHandle<Extension>::Adopt(new Extension(std::forward<Arguments>(i_arguments)...));
+  extension->_pOwner = pOwner;
+  ZELExtensionTable::Attach(*pOwner, *extension);
+  return extension.Detach();
 }
 
 #endif

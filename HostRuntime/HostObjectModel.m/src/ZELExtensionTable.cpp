@@ -25,8 +25,8 @@ void ZELExtensionTable::Attach(ZELBaseUnknown& io_owner, ZELBaseUnknown& io_exte
 {
   Table& table = GetTable();
   const std::lock_guard<std::mutex> lock(table._lock);
-  io_extension._isExtension = true;
   table._extensions[&io_owner].push_back(&io_extension);
+  io_extension._isExtension = true;
   io_owner._hasExtensions.store(true, std::memory_order_release);
 }
 
@@ -36,7 +36,7 @@ ZELBaseUnknown* ZELExtensionTable::TakeLast(ZELBaseUnknown& io_owner)
   Table& table = GetTable();
   const std::lock_guard<std::mutex> lock(table._lock);
   const auto found = table._extensions.find(&io_owner);
-  if (found == table._extensions.end())
+  if (found == table._extensions.end() || found->second.empty())
     return nullptr;
   ZELBaseUnknown* const pLast = found->second.back();
   found->second.pop_back();
