@@ -31,7 +31,11 @@ public:
   ZELBaseUnknown() noexcept = default;
   ZELBaseUnknown(const ZELBaseUnknown&) = delete;
   ZELBaseUnknown& operator=(const ZELBaseUnknown&) = delete;
-  virtual ~ZELBaseUnknown();
+  virtual ~ZELBaseUnknown()
+  {
+    if (HasExtensions())
+      DestroyExtensions();
+  }
 
   // One reference more. Answers the count that stands then.
   int AddRef() { return __builtin_expect(_isExtension, false) ? AddRefOwner() : _count.Increment(); }
@@ -72,6 +76,7 @@ private:
   int AddRefOwner();
   int ReleaseOwner();
   void Destroy();
+  bool HasExtensions() const { return __builtin_expect(_hasExtensions.load(std::memory_order_acquire), false); }
   void DestroyExtensions();
   int Offers(const ZELIID& i_id, void** o_ppFound);
   int OffersByClass(const ZELIID& i_id, void** o_ppFound);

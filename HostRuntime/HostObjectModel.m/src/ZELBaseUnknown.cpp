@@ -10,11 +10,6 @@ ZELImplementRecord_(ZELRecordOfRoot, ZELBaseUnknown, OPXHostRuntime, ZELClassId:
   constexpr int CountOfTheDying = 1 << 30;
 }
 
-ZELBaseUnknown::~ZELBaseUnknown()
-{
-  DestroyExtensions();
-}
-
 int ZELBaseUnknown::AddRefOwner()
 {
   return GetImpl(0)->AddRef();
@@ -28,14 +23,13 @@ int ZELBaseUnknown::ReleaseOwner()
 void ZELBaseUnknown::Destroy()
 {
   _count.Set(CountOfTheDying);
-  DestroyExtensions();
+  if (HasExtensions())
+    DestroyExtensions();
   delete this;
 }
 
 void ZELBaseUnknown::DestroyExtensions()
 {
-  if (!_hasExtensions.load(std::memory_order_acquire))
-    return;
   while (ZELBaseUnknown* const pExtension = ZELExtensionTable::TakeLast(*this))
     delete pExtension;
 }
@@ -55,7 +49,7 @@ int ZELBaseUnknown::Offers(const ZELIID& i_id, void** o_ppFound)
 {
   if (OffersByClass(i_id, o_ppFound))
     return 1;
-  return _hasExtensions.load(std::memory_order_acquire) && ZELExtensionTable::Offers(*this, i_id, o_ppFound);
+  return HasExtensions() && ZELExtensionTable::Offers(*this, i_id, o_ppFound);
 }
 
 int ZELBaseUnknown::OffersByClass(const ZELIID& i_id, void** o_ppFound)
