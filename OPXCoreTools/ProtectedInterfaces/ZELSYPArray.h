@@ -10,8 +10,8 @@
 #define ZELSYPArray_H
 
 #include "ZELSYPCheck.h"
-#include "ZELTravelsAsBytes.h"
 #include "ZELSYPHeapBlocks.h"
+#include "ZELTravelsAsBytes.h"
 
 #include <algorithm>
 #include <climits>
@@ -42,6 +42,11 @@ public:
   // Makes room for i_capacity elements. Not above the length: "i_capacity > _length", and nothing changes. No memory:
   // "plNewArray", and the elements stay where they are. The capacity of now: nothing happens.
   void SetCapacity(int i_capacity);
+
+  // For an array without room: uses the room of i_room, a ZELSYPRecycledBlocks::Room<T, n> or whatever else its Blocks takes
+  // back, which must outlive it, before it takes a block.
+  template <class Room>
+  void UseRoom(Room& io_room);
 
   // The element at i_index (0 to GetLength() - 1), valid until the array changes. For any other index
   // "(i_index>=0 && i_index<_length)" and a spare element that no index reaches.
@@ -139,6 +144,14 @@ void ZELSYPArray<T, Blocks>::SetCapacity(int i_capacity)
 }
 
 template <class T, class Blocks>
+template <class Room>
+inline void ZELSYPArray<T, Blocks>::UseRoom(Room& io_room)
+{
+  _data = io_room.Get();
+  _capacity = _room = Room::Capacity;
+}
+
+template <class T, class Blocks>
 inline void ZELSYPArray<T, Blocks>::MoveToNewBlock()
 {
   T* const plNewArray = MovedToNewBlock(_data, _length, _capacity);
@@ -177,7 +190,9 @@ T ZELSYPArray<T, Blocks>::RemoveAt(int i_index)
 template <class T, class Blocks>
 void ZELSYPArray<T, Blocks>::RemoveAll()
 {
-  std::destroy(begin(), end());
+  // What stands here is a T and nothing that derives from it: the destructor needs no look-up.
+  for (T* pElement = begin(); pElement != end(); ++pElement)
+    pElement->T::~T();
   _length = 0;
 }
 

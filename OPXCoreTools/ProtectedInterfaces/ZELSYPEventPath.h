@@ -7,6 +7,7 @@
 
 #include "OPXCoreToolsExport.h"
 #include "ZELSYPArray.h"
+#include "ZELSYPCheck.h"
 #include "ZELSYPEventPathElt.h"
 #include "ZELSYPRecycledBlocks.h"
 
@@ -17,7 +18,7 @@ class ZELSYPEventArgs;
 class OPXCORETOOLS_EXPORT ZELSYPEventPath
 {
 public:
-  ZELSYPEventPath();
+  ZELSYPEventPath() { _elements.UseRoom(_room); }
   ZELSYPEventPath(const ZELSYPEventPath&) = delete;
   ZELSYPEventPath& operator=(const ZELSYPEventPath&) = delete;
   // Deletes the stops. A null one: "pElt".
@@ -25,7 +26,11 @@ public:
 
   // Puts a stop at the end; from now on the path owns it, and without memory for it deletes it at once. Null: "i_pElem", and
   // nothing changes.
-  void AddElement(ZELSYPEventPathElt* i_pElem);
+  void AddElement(ZELSYPEventPathElt* i_pElem)
+  {
+    if (ZELSYP_CHECK_POINTER(i_pElem) && !_elements.Append(i_pElem))
+      delete i_pElem;
+  }
   // Runs the stops in their order, all of them, consumed or not. No arguments: "i_pArgs". A null stop ends the walk: "pElt".
   void Dispatch(ZELSYPEventArgs* i_pArgs);
 
@@ -37,7 +42,15 @@ public:
   static void operator delete(void* i_pMemory) noexcept { ZELSYPRecycledBlocks::GiveBack(i_pMemory); }
 
 private:
+  friend class ZELSYPEventPathBuilder;
+  void ReserveElements(int i_count)
+  {
+    if (i_count > _elements.GetCapacity())
+      _elements.SetCapacity(i_count);
+  }
+
   ZELSYPArray<ZELSYPEventPathElt*, ZELSYPRecycledBlocks> _elements;
+  ZELSYPRecycledBlocks::Room<ZELSYPEventPathElt*, 8> _room;
 };
 
 #endif

@@ -51,9 +51,12 @@ private:
   // The next node towards the root, borrowed; null at the root. It must come to an end.
   virtual ZELBaseUnknown* GetParent(ZELSYPEventArgs* i_pArgs, ZELBaseUnknown* i_pNode) = 0;
 
+  // Adds the stops of the route; false when it is refused.
+  bool FillPath(ZELSYPEventPath& io_path, ZELSYPEventArgs* i_pArgs);
+  bool AddStops(ZELSYPEventPath& io_path, ZELSYPEventArgs* i_pArgs);
   int FillListOfNodes(Nodes& io_list, ZELSYPEventArgs* i_pArgs);
   int AddChain(Nodes& io_list, ZELSYPEventArgs& i_args, ZELBaseUnknown* i_pOrigin);
-  ZELSYPEventPath* BuildElements(ZELSYPEventArgs& i_args, const Nodes& i_nodes);
+  bool BuildElements(ZELSYPEventPath& io_path, ZELSYPEventArgs& i_args, const Nodes& i_nodes);
 };
 
 #endif

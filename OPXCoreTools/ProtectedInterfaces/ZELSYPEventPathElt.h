@@ -23,18 +23,17 @@ class OPXCORETOOLS_EXPORT ZELSYPEventPathElt
 {
 public:
   // No node: "i_spNode"; the stop is there, and runs nothing.
-  explicit ZELSYPEventPathElt(ZELBaseUnknown_var i_spNode) : _spNode(std::move(i_spNode)) { CheckNode(); }
+  explicit ZELSYPEventPathElt(ZELBaseUnknown_var i_spNode) : _spNode(std::move(i_spNode))
+  {
+    _lists.UseRoom(_room);
+    CheckNode();
+  }
   ZELSYPEventPathElt(const ZELSYPEventPathElt&) = delete;
   ZELSYPEventPathElt& operator=(const ZELSYPEventPathElt&) = delete;
   virtual ~ZELSYPEventPathElt();
 
   // Puts a snapshot of the list at the end.
-  void AddList(const ZELSYPEventHandlerInfoList& i_list)
-  {
-    if (_lists.GetCapacity() == 0)
-      _lists.SetCapacity(UsualLists);
-    _lists.Append(i_list);
-  }
+  void AddList(const ZELSYPEventHandlerInfoList& i_list) { _lists.Append(i_list); }
   // Runs the handlers, list by list and in each in the order of registration; those of consumed arguments only that asked
   // for them, which is looked at before each one. No node ("_spNode") or no arguments ("i_pArgs"): nothing runs. A
   // registration that is null ("pInfo") or has no handler ("pHandler") ends this stop. What a handler throws goes through.
@@ -50,17 +49,14 @@ public:
   static void operator delete(void* i_pMemory) noexcept { ZELSYPRecycledBlocks::GiveBack(i_pMemory); }
 
 private:
-  enum
-  {
-    UsualLists = 4
-  };
-
   void CheckNode() const { ZELSYP_CHECK_REPORT(_spNode, Check_Handler_Failed__, "i_spNode", __LINE__, nullptr); }
-  bool RunList(int i_list, ZELSYPEventArgs& io_args) const;
+  bool RunHandler(int i_list, int i_index, ZELSYPEventArgs& io_args) const;
   void RunObserved(int i_list, int i_index, ZELSYPEventHandlerInfo& i_info, ZELSYPEventArgs& io_args) const;
 
   ZELBaseUnknown_var _spNode;
   ZELSYPArray<ZELSYPEventHandlerInfoList, ZELSYPRecycledBlocks> _lists;
+  // For the list of the node's class and its own.
+  ZELSYPRecycledBlocks::Room<ZELSYPEventHandlerInfoList, 2> _room;
 };
 
 #endif

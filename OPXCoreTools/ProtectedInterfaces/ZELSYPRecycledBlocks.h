@@ -11,13 +11,65 @@
 
 struct OPXCORETOOLS_EXPORT ZELSYPRecycledBlocks
 {
+  // Room for the first i_count elements of an array, beside the array (ZELSYPArray::UseRoom): GiveBack takes it for nothing.
+  template <class T, int i_count>
+  class Room;
+
   // i_bytes of memory, aligned as new aligns by itself, or null when there is none.
   static void* Take(std::size_t i_bytes) noexcept;
   // A block of i_bytes that begins with the first i_used bytes of io_block and takes its place. Null when there is no
   // memory, and io_block stands as it was. For a null io_block a new block.
   static void* Extend(void* io_block, std::size_t i_used, std::size_t i_bytes) noexcept;
   // Takes a block back, on whatever thread it was taken. Null is nothing.
-  static void GiveBack(void* i_pBlock) noexcept;
+  static void GiveBack(void* i_pBlock) noexcept
+  {
+    if (i_pBlock && HeadOf(i_pBlock)->_kind != NoBlock)
+      Keep(HeadOf(i_pBlock));
+  }
+
+private:
+  enum : std::size_t
+  {
+    NoBlock = ~static_cast<std::size_t>(0)
+  };
+  // Stands before the memory that is handed out.
+  struct alignas(__STDCPP_DEFAULT_NEW_ALIGNMENT__) Head
+  {
+    // While handed out: which list takes the block back. While kept: the next one of its list.
+    union
+    {
+      std::size_t _kind;
+      Head* _pNext;
+    };
+  };
+  struct Kept;
+  struct KeptUntilThreadEnds;
+
+  static Head* HeadOf(void* i_pBlock) noexcept { return static_cast<Head*>(i_pBlock) - 1; }
+  static void* TakeFromHeap(std::size_t i_kind, std::size_t i_bytes) noexcept;
+  static void Keep(Head* i_pBlock) noexcept;
+};
+
+template <class T, int i_count>
+class ZELSYPRecycledBlocks::Room
+{
+public:
+  enum : int
+  {
+    Capacity = i_count
+  };
+
+  Room() noexcept { _head._kind = NoBlock; }
+  Room(const Room&) = delete;
+  Room& operator=(const Room&) = delete;
+
+  T* Get() noexcept { return reinterpret_cast<T*>(_memory); }
+
+private:
+  static_assert(alignof(T) <= alignof(Head), "the elements follow the head");
+
+  Head _head;
+  unsigned char _memory[i_count * sizeof(T)];
 };
 
 #endif

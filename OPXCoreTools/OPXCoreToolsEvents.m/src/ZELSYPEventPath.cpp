@@ -2,19 +2,11 @@
 
 #include "ZELSYPCheck.h"
 
-ZELSYPEventPath::ZELSYPEventPath() = default;
-
 ZELSYPEventPath::~ZELSYPEventPath()
 {
   for (ZELSYPEventPathElt* const pElt : _elements)
     if (ZELSYP_CHECK_POINTER(pElt))
       delete pElt;
-}
-
-void ZELSYPEventPath::AddElement(ZELSYPEventPathElt* i_pElem)
-{
-  if (ZELSYP_CHECK_POINTER(i_pElem) && !_elements.Append(i_pElem))
-    delete i_pElem;
 }
 
 // The length is read again each time: a handler may add a stop.

@@ -12,9 +12,6 @@
 
 namespace
 {
-// Room for the nodes of a usual route without growing.
-constexpr int UsualDepth = 30;
-
 bool HasOrigin(ZELBaseUnknown* i_pOrigin, ZELSYPEventArgs* i_pArgs)
 {
   if (!i_pArgs->GetOrigin())
@@ -59,23 +56,36 @@ int ZELSYPEventPathBuilder::Dispatch(ZELBaseUnknown* i_pOrigin, ZELSYPEventArgs*
 {
   if (!ZELSYP_CHECK_POINTER(i_pOrigin) || !ZELSYP_CHECK_POINTER(i_pArgs) || !HasOrigin(i_pOrigin, i_pArgs))
     return 0;
-  const std::unique_ptr<ZELSYPEventPath> pPath(BuildPath(i_pArgs));
-  if (!ZELSYP_CHECK_POINTER(pPath))
+  ZELSYPEventPath path;
+  if (!ZELSYP_CHECK_REPORT(FillPath(path, i_pArgs), Check_Pointer_Failed__, "pPath", __LINE__, nullptr))
     return 0;
-  pPath->Dispatch(i_pArgs);
+  path.Dispatch(i_pArgs);
   return 1;
 }
 
 ZELSYPEventPath* ZELSYPEventPathBuilder::BuildPath(ZELSYPEventArgs* i_pArgs)
 {
+  std::unique_ptr<ZELSYPEventPath> pPath = std::make_unique<ZELSYPEventPath>();
+  return FillPath(*pPath, i_pArgs) ? pPath.release() : nullptr;
+}
+
+bool ZELSYPEventPathBuilder::FillPath(ZELSYPEventPath& io_path, ZELSYPEventArgs* i_pArgs)
+{
   if (!ZELSYP_CHECK_POINTER(i_pArgs) ||
       !ZELSYP_CHECK_POINTER_DETAILS(i_pArgs->GetOrigin(), "Can't dispatch, Origin has not been set on the event arguments") ||
       !HasExpectedClass(*i_pArgs))
-    return nullptr;
+    return false;
+  return AddStops(io_path, i_pArgs);
+}
+
+bool ZELSYPEventPathBuilder::AddStops(ZELSYPEventPath& io_path, ZELSYPEventArgs* i_pArgs)
+{
+  ZELSYPRecycledBlocks::Room<ZELBaseUnknown_var, 30> room;
   Nodes nodes;
+  nodes.UseRoom(room);
   if (!ZELSYP_CHECK_TRUE(FillListOfNodes(nodes, i_pArgs)) || !ZELSYP_CHECK_TRUE(nodes.GetLength() >= 1))
-    return nullptr;
-  return BuildElements(*i_pArgs, nodes);
+    return false;
+  return BuildElements(io_path, *i_pArgs, nodes);
 }
 
 int ZELSYPEventPathBuilder::IsHeard(ZELBaseUnknown* i_pOrigin, ZELSYPEvent* i_pEvent)
@@ -84,9 +94,8 @@ int ZELSYPEventPathBuilder::IsHeard(ZELBaseUnknown* i_pOrigin, ZELSYPEvent* i_pE
     return 0;
   ZELSYPEventArgs args(i_pEvent);
   args.SetOrigin(i_pOrigin);
-  Nodes nodes;
-  const std::unique_ptr<ZELSYPEventPath> pPath(FillListOfNodes(nodes, &args) ? BuildElements(args, nodes) : nullptr);
-  return pPath && pPath->GetElementCount() > 0;
+  ZELSYPEventPath path;
+  return AddStops(path, &args) && path.GetElementCount() > 0;
 }
 
 ZELSYPEventPathElt* ZELSYPEventPathBuilder::NO_ELEMENT()
@@ -115,26 +124,25 @@ int ZELSYPEventPathBuilder::FillListOfNodes(Nodes& io_list, ZELSYPEventArgs* i_p
 
 int ZELSYPEventPathBuilder::AddChain(Nodes& io_list, ZELSYPEventArgs& i_args, ZELBaseUnknown* i_pOrigin)
 {
-  io_list.SetCapacity(UsualDepth);
   for (ZELBaseUnknown* pNode = i_pOrigin; pNode; pNode = GetParent(&i_args, pNode))
     if (!io_list.Append(ZELBaseUnknown_var(pNode)))
       return 0;
   return 1;
 }
 
-ZELSYPEventPath* ZELSYPEventPathBuilder::BuildElements(ZELSYPEventArgs& i_args, const Nodes& i_nodes)
+bool ZELSYPEventPathBuilder::BuildElements(ZELSYPEventPath& io_path, ZELSYPEventArgs& i_args, const Nodes& i_nodes)
 {
-  std::unique_ptr<ZELSYPEventPath> pPath = std::make_unique<ZELSYPEventPath>();
+  io_path.ReserveElements(i_nodes.GetLength());
   const ZELSYPEventPathElt* const pNoElement = NO_ELEMENT();
   for (const ZELBaseUnknown_var& spNode : i_nodes)
   {
     if (!ZELSYP_CHECK_HANDLER(spNode))
-      return nullptr;
+      return false;
     ZELSYPEventPathElt* const pElt = BuildElement(&i_args, spNode.Get());
     if (!ZELSYP_CHECK_POINTER_DETAILS(pElt, "Implementation of BuildElement returned NULL"))
-      return nullptr;
+      return false;
     if (pElt != pNoElement)
-      pPath->AddElement(pElt);
+      io_path.AddElement(pElt);
   }
-  return pPath.release();
+  return true;
 }

@@ -29,27 +29,25 @@ void ZELSYPEventPathElt::Dispatch(ZELSYPEventArgs* i_pArgs) const
 {
   if (!ZELSYP_CHECK_HANDLER(_spNode) || !ZELSYP_CHECK_POINTER(i_pArgs))
     return;
-  for (int list = 0; list < _lists.GetLength() && RunList(list, *i_pArgs); ++list)
-  {
-  }
+  for (int list = 0; list < _lists.GetLength(); ++list)
+    for (int index = 0; index < _lists.begin()[list].GetSize(); ++index)
+      if (!RunHandler(list, index, *i_pArgs))
+        return;
 }
 
-// The list is looked up again for every handler: a handler may add lists to this very stop.
-bool ZELSYPEventPathElt::RunList(int i_list, ZELSYPEventArgs& io_args) const
+// Looked up from the stop for every handler: a handler may add lists to this very stop.
+bool ZELSYPEventPathElt::RunHandler(int i_list, int i_index, ZELSYPEventArgs& io_args) const
 {
-  for (int index = 0; index < _lists.begin()[i_list].GetSize(); ++index)
-  {
-    ZELSYPEventHandlerInfo* const pInfo = _lists.begin()[i_list].begin()[index];
-    if (!ZELSYP_CHECK_POINTER(pInfo))
-      return false;
-    ZELSYPEventHandler* const pHandler = pInfo->GetHandler();
-    if (!ZELSYP_CHECK_POINTER(pHandler))
-      return false;
-    if (__builtin_expect(ZELSYPDispatchObserver::AnyLives(), false))
-      RunObserved(i_list, index, *pInfo, io_args);
-    else if (MayRun(*pInfo, io_args))
-      pHandler->Handle(_spNode.Get(), &io_args);
-  }
+  ZELSYPEventHandlerInfo* const pInfo = _lists.begin()[i_list].begin()[i_index];
+  if (!ZELSYP_CHECK_POINTER(pInfo))
+    return false;
+  ZELSYPEventHandler* const pHandler = pInfo->GetHandler();
+  if (!ZELSYP_CHECK_POINTER(pHandler))
+    return false;
+  if (__builtin_expect(ZELSYPDispatchObserver::AnyLives(), false))
+    RunObserved(i_list, i_index, *pInfo, io_args);
+  else if (MayRun(*pInfo, io_args))
+    pHandler->Handle(_spNode.Get(), &io_args);
   return true;
 }
 

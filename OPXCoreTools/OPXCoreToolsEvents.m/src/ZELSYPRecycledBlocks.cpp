@@ -6,7 +6,7 @@
 
 namespace
 {
-enum : unsigned
+enum : std::size_t
 {
   // Blocks of 64 bytes to 1 MiB are kept; a larger one goes back to the heap.
   SmallestBits = 6,
@@ -14,33 +14,29 @@ enum : unsigned
   KindCount = LargestBits - SmallestBits + 1,
   NotKept = KindCount
 };
-
-// Stands before the memory that is handed out.
-struct alignas(__STDCPP_DEFAULT_NEW_ALIGNMENT__) Block
-{
-  // While handed out: which list takes it back. While kept: the next one of its list.
-  union
-  {
-    std::size_t _kind;
-    Block* _pNext;
-  };
-};
+} // namespace
 
 // Plain data, so that it can be used before and after everything else of its thread.
-struct Kept
+struct ZELSYPRecycledBlocks::Kept
 {
-  Block* _lists[KindCount];
+  Head* _lists[KindCount];
   bool _threadEnds;
-};
-[[gnu::tls_model("initial-exec")]] thread_local Kept t_kept;
 
-struct KeptUntilThreadEnds
+  [[gnu::tls_model("initial-exec")]] static thread_local Kept t_kept;
+
+  static std::size_t KindOf(std::size_t i_bytes) noexcept;
+  static std::size_t BytesOf(std::size_t i_kind, std::size_t i_bytes) noexcept;
+};
+
+thread_local ZELSYPRecycledBlocks::Kept ZELSYPRecycledBlocks::Kept::t_kept;
+
+struct ZELSYPRecycledBlocks::KeptUntilThreadEnds
 {
   ~KeptUntilThreadEnds()
   {
-    t_kept._threadEnds = true;
-    for (Block*& pList : t_kept._lists)
-      while (Block* const pBlock = pList)
+    Kept::t_kept._threadEnds = true;
+    for (Head*& pList : Kept::t_kept._lists)
+      while (Head* const pBlock = pList)
       {
         pList = pBlock->_pNext;
         ::operator delete(pBlock);
@@ -48,48 +44,42 @@ struct KeptUntilThreadEnds
   }
 };
 
-unsigned KindOf(std::size_t i_bytes) noexcept
+std::size_t ZELSYPRecycledBlocks::Kept::KindOf(std::size_t i_bytes) noexcept
 {
-  if (i_bytes <= (std::size_t{1} << SmallestBits) - sizeof(Block))
+  if (i_bytes <= (std::size_t{1} << SmallestBits) - sizeof(Head))
     return 0;
-  if (i_bytes > (std::size_t{1} << LargestBits) - sizeof(Block))
+  if (i_bytes > (std::size_t{1} << LargestBits) - sizeof(Head))
     return NotKept;
-  return 64 - static_cast<unsigned>(__builtin_clzll(i_bytes + sizeof(Block) - 1)) - SmallestBits;
+  return 64 - static_cast<std::size_t>(__builtin_clzll(i_bytes + sizeof(Head) - 1)) - SmallestBits;
 }
 
-std::size_t BytesOf(unsigned i_kind, std::size_t i_bytes) noexcept
+std::size_t ZELSYPRecycledBlocks::Kept::BytesOf(std::size_t i_kind, std::size_t i_bytes) noexcept
 {
   if (i_kind != NotKept)
     return std::size_t{1} << (i_kind + SmallestBits);
-  return i_bytes > SIZE_MAX - sizeof(Block) ? SIZE_MAX : i_bytes + sizeof(Block);
+  return i_bytes > SIZE_MAX - sizeof(Head) ? SIZE_MAX : i_bytes + sizeof(Head);
 }
-
-[[gnu::noinline]] void* TakeFromHeap(unsigned i_kind, std::size_t i_bytes) noexcept
-{
-  thread_local KeptUntilThreadEnds t_cleaner;
-  static_cast<void>(&t_cleaner);
-  void* const pMemory = ::operator new(BytesOf(i_kind, i_bytes), std::nothrow);
-  if (!pMemory)
-    return nullptr;
-  Block* const pBlock = ::new (pMemory) Block;
-  pBlock->_kind = i_kind;
-  return pBlock + 1;
-}
-
-[[gnu::noinline]] void GiveBackToHeap(Block* i_pBlock) noexcept
-{
-  ::operator delete(i_pBlock);
-}
-} // namespace
 
 void* ZELSYPRecycledBlocks::Take(std::size_t i_bytes) noexcept
 {
-  const unsigned kind = KindOf(i_bytes);
-  Block* const pBlock = kind != NotKept ? t_kept._lists[kind] : nullptr;
+  const std::size_t kind = Kept::KindOf(i_bytes);
+  Head* const pBlock = kind != NotKept ? Kept::t_kept._lists[kind] : nullptr;
   if (!pBlock)
     return TakeFromHeap(kind, i_bytes);
-  t_kept._lists[kind] = pBlock->_pNext;
+  Kept::t_kept._lists[kind] = pBlock->_pNext;
   pBlock->_kind = kind;
+  return pBlock + 1;
+}
+
+[[gnu::noinline]] void* ZELSYPRecycledBlocks::TakeFromHeap(std::size_t i_kind, std::size_t i_bytes) noexcept
+{
+  thread_local KeptUntilThreadEnds t_cleaner;
+  static_cast<void>(&t_cleaner);
+  void* const pMemory = ::operator new(Kept::BytesOf(i_kind, i_bytes), std::nothrow);
+  if (!pMemory)
+    return nullptr;
+  Head* const pBlock = ::new (pMemory) Head;
+  pBlock->_kind = i_kind;
   return pBlock + 1;
 }
 
@@ -103,14 +93,11 @@ void* ZELSYPRecycledBlocks::Extend(void* io_block, std::size_t i_used, std::size
   return pBlock;
 }
 
-void ZELSYPRecycledBlocks::GiveBack(void* i_pBlock) noexcept
+void ZELSYPRecycledBlocks::Keep(Head* i_pBlock) noexcept
 {
-  if (!i_pBlock)
-    return;
-  Block* const pBlock = static_cast<Block*>(i_pBlock) - 1;
-  const std::size_t kind = pBlock->_kind;
-  if (kind == NotKept || t_kept._threadEnds)
-    return GiveBackToHeap(pBlock);
-  pBlock->_pNext = t_kept._lists[kind];
-  t_kept._lists[kind] = pBlock;
+  const std::size_t kind = i_pBlock->_kind;
+  if (__builtin_expect(kind == NotKept || Kept::t_kept._threadEnds, false))
+    return ::operator delete(i_pBlock);
+  i_pBlock->_pNext = Kept::t_kept._lists[kind];
+  Kept::t_kept._lists[kind] = i_pBlock;
 }
