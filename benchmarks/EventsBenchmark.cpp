@@ -3,6 +3,7 @@
 // so: reference counts are cheaper then. EventsThreadsBenchmark.cpp measures the same beside a second thread.
 //
 // RaiseUnheard               No handler anywhere.
+// RaiseHeardElsewhere        No handler at the chain, but one at another node.
 // RaiseHeardEverywhere       One handler at every node.
 // RaiseTenAtOrigin           Ten handlers at the leaf.
 // RaiseClass...              The same with one handler more for the middle one of the nodes' three classes, which runs at

@@ -7,6 +7,7 @@
 
 #include "OPXCoreToolsExport.h"
 #include "ZELBaseUnknown.h"
+#include "ZELSYPCheck.h"
 #include "ZELSYPEvent.h"
 
 #include <cstdint>
@@ -17,8 +18,18 @@ class OPXCORETOOLS_EXPORT ZELSYPEventArgs : public ZELBaseUnknown
 
 public:
   // Holds a reference on the event. Null: "i_pEvent", and there is no event.
-  explicit ZELSYPEventArgs(ZELSYPEvent* i_pEvent);
-  ~ZELSYPEventArgs() override;
+  explicit ZELSYPEventArgs(ZELSYPEvent* i_pEvent) : _pEvent(i_pEvent)
+  {
+    if (ZELSYP_CHECK_POINTER(i_pEvent))
+      i_pEvent->AddRef();
+  }
+  ~ZELSYPEventArgs() override
+  {
+    if (_pOrigin)
+      _pOrigin->Release();
+    if (_pEvent)
+      _pEvent->Release();
+  }
 
   // Without a reference.
   ZELSYPEvent* GetEvent() const noexcept { return _pEvent; }

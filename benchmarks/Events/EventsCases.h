@@ -5,6 +5,7 @@
 //   AddHandler(node)      one handler more, which tells the observer the payload's amount
 //   RemoveHandler(node)   takes one of them away again
 //   Raise()               makes the payload and raises the event at the origin, from there to the root
+//   AddHandlerElsewhere() the same at a node that the event does not come by
 //   AddClassHandler()     where a contender has handlers of a class (RegisterClassCases): one for all nodes
 // A Crowd(count, observer) has room for many listeners and makes them one by one:
 //   Add()                 one listener more, without a handler
@@ -48,17 +49,20 @@ struct RaiseCase
 {
   const char* _name;
   int _handlersAtOrigin;
-  int _handlersElsewhere;
+  int _handlersAbove;
   int _classHandlers;
+  bool _isHeardElsewhere;
 };
 
 template <class World>
 int AddHandlers(World& io_world, const RaiseCase& i_case, int i_depth)
 {
   for (int node = 0; node < i_depth; ++node)
-    for (int count = node == 0 ? i_case._handlersAtOrigin : i_case._handlersElsewhere; count > 0; --count)
+    for (int count = node == 0 ? i_case._handlersAtOrigin : i_case._handlersAbove; count > 0; --count)
       io_world.AddHandler(node);
-  return i_case._handlersAtOrigin + (i_depth - 1) * i_case._handlersElsewhere + i_depth * i_case._classHandlers;
+  if (i_case._isHeardElsewhere)
+    io_world.AddHandlerElsewhere();
+  return i_case._handlersAtOrigin + (i_depth - 1) * i_case._handlersAbove + i_depth * i_case._classHandlers;
 }
 
 template <class World>
@@ -138,7 +142,10 @@ void RegisterCases(const std::string& i_contender, const std::string& i_state)
   for (const int depth : s_depths)
   {
     const std::string place = "/" + i_contender + "/" + std::to_string(depth) + i_state;
-    for (const RaiseCase& each : {RaiseCase{"RaiseUnheard", 0, 0, 0}, {"RaiseHeardEverywhere", 1, 1, 0}, {"RaiseTenAtOrigin", 10, 0, 0}})
+    for (const RaiseCase& each : {RaiseCase{"RaiseUnheard", 0, 0, 0, false},
+                                  {"RaiseHeardElsewhere", 0, 0, 0, true},
+                                  {"RaiseHeardEverywhere", 1, 1, 0, false},
+                                  {"RaiseTenAtOrigin", 10, 0, 0, false}})
       Register(each._name + place, Raise<World>, each, depth);
   }
   for (const int present : {0, 10})
@@ -156,8 +163,9 @@ void RegisterClassCases(const std::string& i_contender, const std::string& i_sta
   for (const int depth : s_depths)
   {
     const std::string place = "/" + i_contender + "/" + std::to_string(depth) + i_state;
-    for (const RaiseCase& each :
-         {RaiseCase{"RaiseClassUnheard", 0, 0, 1}, {"RaiseClassHeardEverywhere", 1, 1, 1}, {"RaiseClassTenAtOrigin", 10, 0, 1}})
+    for (const RaiseCase& each : {RaiseCase{"RaiseClassUnheard", 0, 0, 1, false},
+                                  {"RaiseClassHeardEverywhere", 1, 1, 1, false},
+                                  {"RaiseClassTenAtOrigin", 10, 0, 1, false}})
       Register(each._name + place, RaiseWithClass<World>, each, depth);
   }
 }

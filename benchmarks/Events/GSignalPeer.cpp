@@ -93,7 +93,7 @@ private:
 class World
 {
 public:
-  World(int i_depth, Observer& io_observer) : _crowd(i_depth, io_observer)
+  World(int i_depth, Observer& io_observer) : _crowd(i_depth, io_observer), _elsewhere(1, io_observer)
   {
     for (int index = 0; index < i_depth; ++index)
     {
@@ -105,6 +105,11 @@ public:
   }
 
   void AddHandler(int i_node) { _last = _crowd.Connect(_crowd.GetNode(i_node), _signal == s_raised ? "raised" : "raised-with-class"); }
+  void AddHandlerElsewhere()
+  {
+    _elsewhere.Add();
+    _elsewhere.AddHandlerToLast();
+  }
   void RemoveHandler(int i_node) { g_signal_handler_disconnect(_crowd.GetNode(i_node), _last); }
   // The class has its handler for that signal from the beginning.
   void AddClassHandler() { _signal = s_raisedWithClass; }
@@ -117,6 +122,7 @@ public:
 
 private:
   Crowd _crowd;
+  Crowd _elsewhere;
   guint _signal = 0;
   gulong _last = 0;
 };

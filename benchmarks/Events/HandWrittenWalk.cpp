@@ -128,6 +128,7 @@ public:
   }
 
   void AddHandler(int i_node) { _nodes[static_cast<std::size_t>(i_node)]->_store.Add(&_event, _spHandler.get()); }
+  void AddHandlerElsewhere() { _elsewhere.Add(&_event, _spHandler.get()); }
   void RemoveHandler(int i_node) { _nodes[static_cast<std::size_t>(i_node)]->_store.Remove(&_event, _spHandler.get()); }
   void AddClassHandler() { _classStores[&_middle].Add(&_event, _spHandler.get()); }
 
@@ -172,6 +173,7 @@ private:
   Class _base{nullptr};
   Class _middle{&_base};
   Class _leaf{&_middle};
+  Store _elsewhere;
   boost::intrusive_ptr<Handler> _spHandler;
   std::vector<boost::intrusive_ptr<Node>> _nodes;
   std::unordered_map<const Class*, Store> _classStores;

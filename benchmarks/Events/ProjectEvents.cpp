@@ -110,6 +110,7 @@ public:
   }
 
   void AddHandler(int i_node) { _nodes[static_cast<std::size_t>(i_node)]->_support.AddHandler(GetRaised(), _spHandler, 0); }
+  void AddHandlerElsewhere() { _elsewhere.AddHandler(GetRaised(), _spHandler, 0); }
   void RemoveHandler(int i_node) { _nodes[static_cast<std::size_t>(i_node)]->_support.RemoveHandler(GetRaised(), _spHandler); }
   void AddClassHandler() { _classSupport.AddClassHandler(MiddleNode::MetaObject(), GetRaised(), _spHandler, 0); }
 
@@ -121,6 +122,7 @@ public:
 
 private:
   ZELSYPClassEventHandlersSupport _classSupport;
+  ZELSYPEventHandlersSupport _elsewhere;
   ZELHandle<Teller> _spHandler;
   std::vector<ZELHandle<Node>> _nodes;
 };

@@ -82,6 +82,7 @@ public:
   SignalWorld(int i_depth, Observer& io_observer) : _observer(io_observer), _chain(i_depth) {}
 
   void AddHandler(int i_node) { _last = Connect(_chain[i_node], _observer); }
+  void AddHandlerElsewhere() { Connect(&_elsewhere, _observer); }
   void RemoveHandler(int) { QObject::disconnect(_last); }
   void Raise()
   {
@@ -98,6 +99,7 @@ public:
 private:
   Observer& _observer;
   Chain<Node> _chain;
+  Node _elsewhere;
   QMetaObject::Connection _last;
 };
 
@@ -119,14 +121,8 @@ class EventWorld
 public:
   EventWorld(int i_depth, Observer& io_observer) : _observer(io_observer), _chain(i_depth) {}
 
-  void AddHandler(int i_node)
-  {
-    if (_spare)
-      _filters.push_back(std::move(_spare));
-    else
-      _filters.push_back(std::make_unique<Filter>(_observer));
-    _chain[i_node]->installEventFilter(_filters.back().get());
-  }
+  void AddHandler(int i_node) { AddHandlerTo(*_chain[i_node]); }
+  void AddHandlerElsewhere() { AddHandlerTo(_elsewhere); }
   void RemoveHandler(int i_node)
   {
     _chain[i_node]->removeEventFilter(_filters.back().get());
@@ -141,7 +137,17 @@ public:
   }
 
 private:
+  void AddHandlerTo(QObject& io_node)
+  {
+    if (_spare)
+      _filters.push_back(std::move(_spare));
+    else
+      _filters.push_back(std::make_unique<Filter>(_observer));
+    io_node.installEventFilter(_filters.back().get());
+  }
+
   Observer& _observer;
+  QObject _elsewhere;
   std::vector<std::unique_ptr<Filter>> _filters;
   std::unique_ptr<Filter> _spare;
   Chain<QObject> _chain;

@@ -41,6 +41,7 @@ public:
   }
 
   void AddHandler(int i_node) { _last = _nodes[static_cast<std::size_t>(i_node)]->Connect(_observer); }
+  void AddHandlerElsewhere() { _elsewhere.Connect(_observer); }
   void RemoveHandler(int) { _last.disconnect(); }
   void Raise()
   {
@@ -51,6 +52,7 @@ public:
 
 private:
   Observer& _observer;
+  Listener _elsewhere;
   std::vector<std::shared_ptr<Node>> _nodes;
   sigc::connection _last;
 };

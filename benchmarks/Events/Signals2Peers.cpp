@@ -49,6 +49,7 @@ public:
   }
 
   void AddHandler(int i_node) { _last = _nodes[static_cast<std::size_t>(i_node)]->Connect(_observer); }
+  void AddHandlerElsewhere() { _elsewhere.Connect(_observer); }
   void RemoveHandler(int) { _last.disconnect(); }
   void Raise()
   {
@@ -59,6 +60,7 @@ public:
 
 private:
   Observer& _observer;
+  Listener<Signal> _elsewhere;
   std::vector<boost::intrusive_ptr<Node<Signal>>> _nodes;
   signals::connection _last;
 };

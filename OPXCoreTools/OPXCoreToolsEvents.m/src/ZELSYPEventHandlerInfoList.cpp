@@ -4,6 +4,7 @@
 #include "ZELSYPEventHandler.h"
 #include "ZELSYPEventHandlerInfo.h"
 
+#include <algorithm>
 #include <new>
 
 ZELSYPEventHandlerInfo* ZELSYPEventHandlerInfoList::Get(int i_index) const
@@ -38,17 +39,27 @@ void ZELSYPEventHandlerInfoList::Remove(int i_index)
 
 void ZELSYPEventHandlerInfoList::AutoRemove()
 {
-  for (int index = GetSize() - 1; index >= 0; --index)
+  for (int index = FindLastToRemove(GetSize()); index >= 0; index = FindLastToRemove(index))
+    Remove(index);
+}
+
+// Asks the registrations before i_end, from the last to the first; -1 when none is to go. Asks those of a snapshot, since
+// a handler that is asked may change this very list.
+int ZELSYPEventHandlerInfoList::FindLastToRemove(int i_end) const
+{
+  const ZELSYPEventHandlerInfoList snapshot(*this);
+  for (int index = std::min(i_end, snapshot.GetSize()) - 1; index >= 0; --index)
   {
-    const ZELSYPEventHandlerInfo* const pInfo = _pSharedData->_handlers[index];
+    const ZELSYPEventHandlerInfo* const pInfo = snapshot.begin()[index];
     if (!ZELSYP_CHECK_POINTER(pInfo))
-      return;
+      return -1;
     ZELSYPEventHandler* const pHandler = pInfo->GetHandler();
     if (!ZELSYP_CHECK_POINTER(pHandler))
-      return;
+      return -1;
     if (pHandler->MustBeRemoved())
-      Remove(index);
+      return index;
   }
+  return -1;
 }
 
 bool ZELSYPEventHandlerInfoList::HasInfoAt(int i_index) const
