@@ -1,25 +1,16 @@
 // Every tree record is made from whatever bytes come, and what it writes is what it computes.
 // TreeRecords_fuzz fuzz/corpus/TreeRecords
+#include "Require.h"
 #include "ZELSYPDataSourceParameters.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <string>
 
 namespace
 {
 using namespace ZELSYPDataSourceParameters;
 using nlohmann::json;
-
-void Require(bool i_holds, const char* i_what)
-{
-  if (i_holds)
-    return;
-  std::fprintf(stderr, "broken: %s\n", i_what);
-  std::abort();
-}
 
 // A type error is a record's answer to a message of the wrong types.
 template <typename Call>

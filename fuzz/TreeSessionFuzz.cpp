@@ -2,11 +2,10 @@
 // TreeSession_fuzz fuzz/corpus/TreeSession
 #include "OPXTreeDataSource.h"
 #include "OPXTreeSession.h"
+#include "Require.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 #include <string>
@@ -16,14 +15,6 @@ namespace
 {
 using namespace ZELSYPDataSourceParameters;
 using nlohmann::json;
-
-void Require(bool i_holds, const char* i_what)
-{
-  if (i_holds)
-    return;
-  std::fprintf(stderr, "broken: %s\n", i_what);
-  std::abort();
-}
 
 // Every node but "throw", which fails, has one child, and the id of that is the last byte of the last key.
 class SmallSource : public OPXTreeDataSource

@@ -2,12 +2,12 @@
 #include "ChildProcess.h"
 #include "ChildProgram.h"
 #include "DebuggedProgram.h"
+#include "FailureHandlerInstaller.h"
 #include "OPXCoreServices.h"
 #include "TemporaryTree.h"
 #include "ZELGetFunctionAddress.h"
 #include "ZELSYPCheck.h"
 #include "ZELSYPCheckFailureHandler.h"
-#include "ZELSYPCheckFailureHandlerSetter.h"
 
 #include <gmock/gmock.h>
 
@@ -29,11 +29,6 @@ class PartingHandler : public ZELSYPCheckFailureHandler
 public:
   ~PartingHandler() override { std::fputs("the handler went\n", stderr); }
   void HandleFailure(const char*, const char*, int, const char*) override {}
-};
-
-struct Installer : ZELSYPCheckFailureHandlerSetter
-{
-  using ZELSYPCheckFailureHandlerSetter::SetFailureHandler;
 };
 
 void TellWhetherDebugged()
@@ -66,7 +61,7 @@ OPX_CHILD_ENTRY(FailBeforeAndAfterThePanelCame)
 OPX_CHILD_ENTRY(EndWithAHandlerInstalled)
 {
   PartingHandler* const pHandler = new PartingHandler;
-  Installer::SetFailureHandler(pHandler);
+  FailureHandlerInstaller::SetFailureHandler(pHandler);
   pHandler->Release();
   std::fputs("ending\n", stderr);
   return 0;

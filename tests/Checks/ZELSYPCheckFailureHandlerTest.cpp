@@ -1,7 +1,7 @@
 #include "ZELSYPCheckFailureHandler.h"
+#include "FailureHandlerInstaller.h"
 #include "RecordingFailureHandler.h"
 #include "ZELSYPCheck.h"
-#include "ZELSYPCheckFailureHandlerSetter.h"
 
 #include <gmock/gmock.h>
 
@@ -16,15 +16,6 @@ using testing::IsEmpty;
 
 namespace
 {
-class Installer : public ZELSYPCheckFailureHandlerSetter
-{
-public:
-  using ZELSYPCheckFailureHandlerSetter::ResetExpectFailuresAndCheck;
-  using ZELSYPCheckFailureHandlerSetter::ResetExpectFailuresAndCheckMsg;
-  using ZELSYPCheckFailureHandlerSetter::SetExpectFailures;
-  using ZELSYPCheckFailureHandlerSetter::SetFailureHandler;
-};
-
 // Counts its reports, and tells when it is gone.
 class CountingHandler : public ZELSYPCheckFailureHandler
 {
@@ -71,7 +62,7 @@ public:
     _messages.push_back(i_message);
     if (_messages.size() == 1)
       CheckFailure__("inner", "Some.cpp", 2, nullptr);
-    Installer::SetFailureHandler(nullptr);
+    FailureHandlerInstaller::SetFailureHandler(nullptr);
   }
 
 private:
@@ -140,16 +131,16 @@ TEST(ZELSYPCheckFailureHandler, IsFreeOnceEveryMarkIsGone)
 TEST(ZELSYPCheckFailureHandler, BaseReportsAnEndOfExpectationsThatItDoesNotSupport)
 {
   RecordingFailureHandler failures;
-  Installer::SetExpectFailures();
+  FailureHandlerInstaller::SetExpectFailures();
   EXPECT_THAT(failures.GetMessages(), IsEmpty());
-  Installer::ResetExpectFailuresAndCheck("Some.cpp", 12);
+  FailureHandlerInstaller::ResetExpectFailuresAndCheck("Some.cpp", 12);
   EXPECT_THAT(failures.GetFailures(), ElementsAre(RecordingFailureHandler::Failure{NoFlag, "Some.cpp", 12, std::nullopt}));
 }
 
 TEST(ZELSYPCheckFailureHandler, BaseReportsAdvancedExpectationsOnlyWhereSomeAreGiven)
 {
   RecordingFailureHandler failures;
-  Installer::ResetExpectFailuresAndCheckMsg("Some.cpp", 12, 0, "", "");
+  FailureHandlerInstaller::ResetExpectFailuresAndCheckMsg("Some.cpp", 12, 0, "", "");
   EXPECT_THAT(failures.GetMessages(), ElementsAre(NoFlag));
   struct
   {
@@ -159,7 +150,7 @@ TEST(ZELSYPCheckFailureHandler, BaseReportsAdvancedExpectationsOnlyWhereSomeAreG
   for (const auto& expected : given)
   {
     failures.Clear();
-    Installer::ResetExpectFailuresAndCheckMsg("Some.cpp", 12, expected.count, expected.text1, expected.text2);
+    FailureHandlerInstaller::ResetExpectFailuresAndCheckMsg("Some.cpp", 12, expected.count, expected.text1, expected.text2);
     EXPECT_THAT(failures.GetFailures(), ElementsAre(RecordingFailureHandler::Failure{NoFlag, "Some.cpp", 12, std::nullopt},
                                                     RecordingFailureHandler::Failure{NoAdvance, "Some.cpp", 12, std::nullopt}));
   }
@@ -169,12 +160,12 @@ TEST(ZELSYPCheckFailureHandlerSetter, HoldsAReferenceOnTheInstalledHandler)
 {
   Life life;
   CountingHandler* pHandler = life.New();
-  Installer::SetFailureHandler(pHandler);
+  FailureHandlerInstaller::SetFailureHandler(pHandler);
   pHandler->Release();
   CheckFailure__("message", "Some.cpp", 1, nullptr);
-  Installer::SetFailureHandler(pHandler); // changes nothing
+  FailureHandlerInstaller::SetFailureHandler(pHandler); // changes nothing
   EXPECT_EQ(life.destroyed, 0);
-  Installer::SetFailureHandler(nullptr);
+  FailureHandlerInstaller::SetFailureHandler(nullptr);
   EXPECT_EQ(life.reports, 1);
   EXPECT_EQ(life.destroyed, 1);
 }
@@ -183,11 +174,11 @@ TEST(ZELSYPCheckFailureHandlerSetter, ForwardsToTheInstalledHandlerWithAllArgume
 {
   std::vector<std::string> calls;
   auto* pHandler = new CallLog(calls);
-  Installer::SetFailureHandler(pHandler);
-  Installer::SetExpectFailures();
-  Installer::ResetExpectFailuresAndCheck("Some.cpp", 12);
-  Installer::ResetExpectFailuresAndCheckMsg("Other.cpp", 13, 2, "first", "second");
-  Installer::SetFailureHandler(nullptr);
+  FailureHandlerInstaller::SetFailureHandler(pHandler);
+  FailureHandlerInstaller::SetExpectFailures();
+  FailureHandlerInstaller::ResetExpectFailuresAndCheck("Some.cpp", 12);
+  FailureHandlerInstaller::ResetExpectFailuresAndCheckMsg("Other.cpp", 13, 2, "first", "second");
+  FailureHandlerInstaller::SetFailureHandler(nullptr);
   pHandler->Release();
   EXPECT_THAT(calls, ElementsAre("expect", "reset Some.cpp 12", "reset Other.cpp 13", "2 first second"));
 }
@@ -196,7 +187,7 @@ TEST(ZELSYPCheckFailureHandlerSetter, HandlerMayFailChecksAndUninstallItselfWhil
 {
   std::vector<std::string> messages;
   auto* pHandler = new ReentrantHandler(messages);
-  Installer::SetFailureHandler(pHandler);
+  FailureHandlerInstaller::SetFailureHandler(pHandler);
   pHandler->Release();
   CheckFailure__("outer", "Some.cpp", 1, nullptr);
   EXPECT_THAT(messages, ElementsAre("outer", "inner"));
@@ -209,7 +200,7 @@ TEST(ZELSYPCheckFailureHandlerSetter, SixteenThreadsFailChecksWhileOthersReplace
   std::atomic<int> made{0};
   std::atomic<bool> done{false};
   CountingHandler* pFirst = life.New();
-  Installer::SetFailureHandler(pFirst);
+  FailureHandlerInstaller::SetFailureHandler(pFirst);
   pFirst->Release();
 
   std::vector<std::thread> replacing;
@@ -221,8 +212,8 @@ TEST(ZELSYPCheckFailureHandlerSetter, SixteenThreadsFailChecksWhileOthersReplace
           {
             CountingHandler* pHandler = life.New();
             ++made;
-            Installer::SetFailureHandler(pHandler);
-            Installer::SetExpectFailures();
+            FailureHandlerInstaller::SetFailureHandler(pHandler);
+            FailureHandlerInstaller::SetExpectFailures();
             pHandler->WaitForFreeEvent();
             pHandler->Release();
           }
@@ -240,7 +231,7 @@ TEST(ZELSYPCheckFailureHandlerSetter, SixteenThreadsFailChecksWhileOthersReplace
   done = true;
   for (std::thread& thread : replacing)
     thread.join();
-  Installer::SetFailureHandler(nullptr);
+  FailureHandlerInstaller::SetFailureHandler(nullptr);
 
   EXPECT_EQ(life.reports, reporters * reports);
   EXPECT_EQ(life.destroyed, made + 1);

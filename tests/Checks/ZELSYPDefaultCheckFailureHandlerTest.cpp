@@ -1,8 +1,8 @@
 #include "ChildProcess.h"
 #include "ChildProgram.h"
+#include "FailureHandlerInstaller.h"
 #include "ReportText.h"
 #include "ZELSYPCheck.h"
-#include "ZELSYPCheckFailureHandlerSetter.h"
 
 #include <gmock/gmock.h>
 
@@ -11,15 +11,6 @@
 
 namespace
 {
-class Installer : public ZELSYPCheckFailureHandlerSetter
-{
-public:
-  using ZELSYPCheckFailureHandlerSetter::ResetExpectFailuresAndCheck;
-  using ZELSYPCheckFailureHandlerSetter::ResetExpectFailuresAndCheckMsg;
-  using ZELSYPCheckFailureHandlerSetter::SetExpectFailures;
-  using ZELSYPCheckFailureHandlerSetter::SetFailureHandler;
-};
-
 const std::string StackHeading = "\n   Trying to obtain the call stack:\n";
 const std::string Terminating = "   calling ZELTerminate to end the process.\n";
 
@@ -37,10 +28,11 @@ ChildProcess WithoutPanel(const std::string& i_entry)
   return ChildProcess::Self(i_entry).Set("ZELDevelopmentStage", "1");
 }
 
-// What a failure prints that ends the process, after i_before.
-std::string EndAfter(const std::string& i_before)
+// The failure ended the process, and i_before is what it printed before the call stack.
+void ExpectEndAfter(const std::string& i_before, const ChildResult& i_result)
 {
-  return i_before + StackHeading + "FRAMES\n" + Terminating;
+  EXPECT_FALSE(i_result.ended) << i_result;
+  EXPECT_EQ(ReportText::Of(i_result.err), i_before + StackHeading + "FRAMES\n" + Terminating);
 }
 } // namespace
 
@@ -71,7 +63,7 @@ OPX_CHILD_ENTRY(FailChecksAtSeveralPlaces)
 OPX_CHILD_ENTRY(FailAgainAfterTheHandlerWasReplaced)
 {
   CheckFailure__("first", "Some.cpp", 12, nullptr);
-  Installer::SetFailureHandler(nullptr);
+  FailureHandlerInstaller::SetFailureHandler(nullptr);
   CheckFailure__("again", "Some.cpp", 12, nullptr);
   return 0;
 }
@@ -91,9 +83,9 @@ OPX_CHILD_ENTRY(PrintAndFail)
 
 OPX_CHILD_ENTRY(EndAnExpectationThatNobodyTakes)
 {
-  Installer::SetExpectFailures();
-  Installer::ResetExpectFailuresAndCheck("Some.cpp", 12);
-  Installer::ResetExpectFailuresAndCheckMsg("Some.cpp", 13, 1, "", "");
+  FailureHandlerInstaller::SetExpectFailures();
+  FailureHandlerInstaller::ResetExpectFailuresAndCheck("Some.cpp", 12);
+  FailureHandlerInstaller::ResetExpectFailuresAndCheckMsg("Some.cpp", 13, 1, "", "");
   return 0;
 }
 
@@ -112,16 +104,13 @@ TEST(ZELSYPDefaultCheckFailureHandler, IsSilentOutsideTheDevelopmentStage)
 TEST(ZELSYPDefaultCheckFailureHandler, PrintsTheFailureAndTheStackAndEndsTheProcessWithoutAPanel)
 {
   const ChildResult result = WithoutPanel("FailOneCheck").Run();
-  EXPECT_FALSE(result.ended) << result;
   EXPECT_EQ(result.out, "");
-  EXPECT_EQ(ReportText::Of(result.err), EndAfter("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n"));
+  ExpectEndAfter("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n", result);
 }
 
 TEST(ZELSYPDefaultCheckFailureHandler, PrintsDetailsOnALineOfTheirOwn)
 {
-  const ChildResult result = WithoutPanel("FailOneCheckWithDetails").Run();
-  EXPECT_FALSE(result.ended) << result;
-  EXPECT_EQ(ReportText::Of(result.err), EndAfter("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n           some details\n"));
+  ExpectEndAfter("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n           some details\n", WithoutPanel("FailOneCheckWithDetails").Run());
 }
 
 TEST(ZELSYPDefaultCheckFailureHandler, FlushesTheOutputBeforeItsReport)
@@ -144,17 +133,14 @@ TEST(ZELSYPDefaultCheckFailureHandler, GoesOnWithoutAStackWhenTheUserContinues)
 
 TEST(ZELSYPDefaultCheckFailureHandler, EndsTheProcessWhenTheUserStops)
 {
-  const ChildResult result = WithPanel("FailOneCheck", 0).Run();
-  EXPECT_FALSE(result.ended) << result;
-  EXPECT_EQ(ReportText::Of(result.err), EndAfter("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n"));
+  ExpectEndAfter("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n", WithPanel("FailOneCheck", 0).Run());
 }
 
 TEST(ZELSYPDefaultCheckFailureHandler, PrintsAnUnknownAnswerAndEndsTheProcess)
 {
-  const ChildResult result = WithPanel("FailOneCheck", 7).Run();
-  EXPECT_FALSE(result.ended) << result;
-  EXPECT_EQ(ReportText::Of(result.err), EndAfter("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n"
-                                                 "Internal error in ZELSYPDefaultCheckFailureHandler.cpp LINE, invalid value 7!\n"));
+  ExpectEndAfter("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n"
+                 "Internal error in ZELSYPDefaultCheckFailureHandler.cpp LINE, invalid value 7!\n",
+                 WithPanel("FailOneCheck", 7).Run());
 }
 
 TEST(ZELSYPDefaultCheckFailureHandler, HidesOneFileAndLineWhateverTheMessage)
@@ -181,20 +167,17 @@ TEST(ZELSYPDefaultCheckFailureHandler, ForgetsHiddenChecksWhenItIsUninstalled)
 
 TEST(ZELSYPDefaultCheckFailureHandler, TakesANullFileAsAnEmptyOneAndPrintsThatTwice)
 {
-  const ChildResult result = WithoutPanel("FailWithoutTexts").Run();
-  EXPECT_FALSE(result.ended) << result;
-  EXPECT_EQ(ReportText::Of(result.err), EndAfter("Internal error in ZELSYPCheckKey.cpp LINE, NULL value!\n"
-                                                 "Internal error in ZELSYPCheckKey.cpp LINE, NULL value!\n"
-                                                 "\n** FAILURE :12: \n"));
+  ExpectEndAfter("Internal error in ZELSYPCheckKey.cpp LINE, NULL value!\n"
+                 "Internal error in ZELSYPCheckKey.cpp LINE, NULL value!\n"
+                 "\n** FAILURE :12: \n",
+                 WithoutPanel("FailWithoutTexts").Run());
 }
 
 TEST(ZELSYPDefaultCheckFailureHandler, ReportsAFailureOfThePanelsLibraryWithoutThePanel)
 {
-  const ChildResult result = WithPanel("FailOneCheck", 1).Set("FailurePanelFailsAtLoad", "1").Run();
-  EXPECT_FALSE(result.ended) << result;
-  EXPECT_EQ(ReportText::Of(result.err),
-            EndAfter("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n"
-                     "\n** FAILURE FailurePanel.cpp:5: boolean !std::getenv(\"FailurePanelFailsAtLoad\") is FALSE\n"));
+  ExpectEndAfter("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n"
+                 "\n** FAILURE FailurePanel.cpp:5: boolean !std::getenv(\"FailurePanelFailsAtLoad\") is FALSE\n",
+                 WithPanel("FailOneCheck", 1).Set("FailurePanelFailsAtLoad", "1").Run());
 }
 
 TEST(ZELSYPDefaultCheckFailureHandler, IsMadeByTheEndOfAnExpectationThatNobodyTakes)
@@ -208,7 +191,5 @@ TEST(ZELSYPDefaultCheckFailureHandler, IsMadeByTheEndOfAnExpectationThatNobodyTa
 
 TEST(ZELSYPDefaultCheckFailureHandler, EndsACoverageRunToo)
 {
-  const ChildResult result = WithoutPanel("FailOneCheck").Set("debuggerMode", "QMCov").Run();
-  EXPECT_FALSE(result.ended) << result;
-  EXPECT_EQ(ReportText::Of(result.err), EndAfter("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n"));
+  ExpectEndAfter("\n** FAILURE Some.cpp:12: pointer i_p is NULL\n", WithoutPanel("FailOneCheck").Set("debuggerMode", "QMCov").Run());
 }

@@ -1,18 +1,9 @@
 #include "RecordingFailureHandler.h"
 
+#include "FailureHandlerInstaller.h"
 #include "ZELSYPCheckFailureHandler.h"
-#include "ZELSYPCheckFailureHandlerSetter.h"
 
 #include <mutex>
-
-namespace
-{
-class Installer : public ZELSYPCheckFailureHandlerSetter
-{
-public:
-  using ZELSYPCheckFailureHandlerSetter::SetFailureHandler;
-};
-} // namespace
 
 class RecordingFailureHandler::Handler : public ZELSYPCheckFailureHandler
 {
@@ -50,12 +41,12 @@ bool RecordingFailureHandler::Failure::operator==(const Failure& i_other) const
 
 RecordingFailureHandler::RecordingFailureHandler() : _pHandler(new Handler)
 {
-  Installer::SetFailureHandler(_pHandler);
+  FailureHandlerInstaller::SetFailureHandler(_pHandler);
 }
 
 RecordingFailureHandler::~RecordingFailureHandler()
 {
-  Installer::SetFailureHandler(nullptr);
+  FailureHandlerInstaller::SetFailureHandler(nullptr);
   _pHandler->WaitForFreeEvent();
   _pHandler->Release();
 }

@@ -4,6 +4,7 @@
 #include "TextPlaces.h"
 #include "TextServices.h"
 #include "ZELString.h"
+#include "ZELTextCase.h"
 
 #include <algorithm>
 
@@ -27,7 +28,7 @@ typedef char32_t (*SystemMapping)(char32_t);
 char32_t MapCharacter(char32_t i_character, char i_firstLetter, SystemMapping i_mapping)
 {
   if (i_character < 0x80)
-    return MapLetter(i_character, i_firstLetter);
+    return ZELMapLetter(i_character, i_firstLetter);
   return i_character < BrokenByte ? i_mapping(i_character) : i_character;
 }
 

@@ -1,6 +1,7 @@
 #include "CaseFolding.h"
 
 #include "ZELString.h"
+#include "ZELTextCase.h"
 #include "ZELUnicodeString.h"
 
 #include <algorithm>
@@ -8,7 +9,7 @@
 bool EqualIgnoringCase(std::string_view i_left, std::string_view i_right) noexcept
 {
   return std::equal(i_left.begin(), i_left.end(), i_right.begin(), i_right.end(),
-                    [](char i_one, char i_other) { return UpperCaseASCII(i_one) == UpperCaseASCII(i_other); });
+                    [](char i_one, char i_other) { return ZELMapLetter(i_one, 'a') == ZELMapLetter(i_other, 'a'); });
 }
 
 // Copies the text in upper case and answers whether every character was ASCII, which is its own narrow view.
@@ -19,7 +20,7 @@ static bool UpperCaseIfASCII(std::string_view i_utf8, std::string& o_upper)
   for (char& character : o_upper)
   {
     seen |= static_cast<unsigned char>(character);
-    character = UpperCaseASCII(character);
+    character = ZELMapLetter(character, 'a');
   }
   return seen < 0x80;
 }

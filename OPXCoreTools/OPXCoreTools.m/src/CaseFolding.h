@@ -6,11 +6,7 @@
 #include <string>
 #include <string_view>
 
-// ASCII letters only, whatever the locale.
-constexpr char UpperCaseASCII(char i_character) noexcept
-{
-  return i_character >= 'a' && i_character <= 'z' ? static_cast<char>(i_character - 'a' + 'A') : i_character;
-}
+// The case of ASCII letters only, whatever the locale.
 bool EqualIgnoringCase(std::string_view i_left, std::string_view i_right) noexcept;
 
 // The narrow view of the text after the system's upper-casing. o_upper is given to be used again: an ASCII text costs

@@ -1,5 +1,6 @@
 #include "OPXExplorerNaturalOrder.h"
 
+#include "ZELTextCase.h"
 #include "ZELUnicodeString.h"
 
 #include <algorithm>
@@ -15,11 +16,6 @@ bool IsDigit(char i_character)
 bool IsASCII(std::string_view i_text)
 {
   return std::all_of(i_text.begin(), i_text.end(), [](char i_character) { return static_cast<unsigned char>(i_character) < 0x80; });
-}
-
-char ToLower(char i_character)
-{
-  return i_character >= 'A' && i_character <= 'Z' ? static_cast<char>(i_character + ('a' - 'A')) : i_character;
 }
 
 // A number sorts by how many digits it has, then by the digits; leading zeros say nothing. Where a number meets another
@@ -43,7 +39,7 @@ void AppendFolded(std::string_view i_name, std::string& io_text)
     if (end > i)
       AppendNumber(i_name.substr(i, end - i), io_text);
     else
-      io_text += ToLower(i_name[end++]);
+      io_text += ZELMapLetter(i_name[end++], 'A');
     i = end;
   }
 }

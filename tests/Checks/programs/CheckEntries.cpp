@@ -1,20 +1,11 @@
 // Every entry point of the checks, each as a function without arguments that can be found by name.
+#include "FailureHandlerInstaller.h"
 #include "ZELSYPCheck.h"
-#include "ZELSYPCheckFailureHandlerSetter.h"
 
 #include <cstdio>
 
 namespace
 {
-class Setter : public ZELSYPCheckFailureHandlerSetter
-{
-public:
-  using ZELSYPCheckFailureHandlerSetter::ResetExpectFailuresAndCheck;
-  using ZELSYPCheckFailureHandlerSetter::ResetExpectFailuresAndCheckMsg;
-  using ZELSYPCheckFailureHandlerSetter::SetExpectFailures;
-  using ZELSYPCheckFailureHandlerSetter::SetFailureHandler;
-};
-
 void TellReturn()
 {
   std::fprintf(stderr, "returned\n");
@@ -45,22 +36,22 @@ extern "C"
   }
   void CallSetFailureHandler()
   {
-    Setter::SetFailureHandler(nullptr);
+    FailureHandlerInstaller::SetFailureHandler(nullptr);
     TellReturn();
   }
   void CallSetExpectFailures()
   {
-    Setter::SetExpectFailures();
+    FailureHandlerInstaller::SetExpectFailures();
     TellReturn();
   }
   void CallResetExpectFailuresAndCheck()
   {
-    Setter::ResetExpectFailuresAndCheck("Some.cpp", 1);
+    FailureHandlerInstaller::ResetExpectFailuresAndCheck("Some.cpp", 1);
     TellReturn();
   }
   void CallResetExpectFailuresAndCheckMsg()
   {
-    Setter::ResetExpectFailuresAndCheckMsg("Some.cpp", 1, 0, "", "");
+    FailureHandlerInstaller::ResetExpectFailuresAndCheckMsg("Some.cpp", 1, 0, "", "");
     TellReturn();
   }
 }

@@ -3,12 +3,12 @@
 //
 // A library's calls reach a function of the same name in the program only where the loader looks names up in the program
 // first. On Windows each call is bound to the library that it was linked with.
+#include "FailureHandlerInstaller.h"
 #include "OPXCoreServices.h"
 #include "ZELEvent.h"
 #include "ZELGetFunctionAddress.h"
 #include "ZELSYPCheck.h"
 #include "ZELSYPCheckFailureHandler.h"
-#include "ZELSYPCheckFailureHandlerSetter.h"
 #include "ZELSysSimpleHashTable.h"
 
 #include <cstdarg>
@@ -123,16 +123,10 @@ public:
   }
 };
 
-class Setter : public ZELSYPCheckFailureHandlerSetter
-{
-public:
-  using ZELSYPCheckFailureHandlerSetter::SetFailureHandler;
-};
-
 void InstallPrintingHandler()
 {
   ZELSYPCheckFailureHandler* const pHandler = new PrintingHandler;
-  Setter::SetFailureHandler(pHandler);
+  FailureHandlerInstaller::SetFailureHandler(pHandler);
   pHandler->Release();
 }
 
@@ -239,7 +233,7 @@ void FailInThreeHandlers(const char* i_panelAnswer)
   for (int handler = 0; handler < 3; ++handler)
   {
     FailOnce(nullptr);
-    Setter::SetFailureHandler(nullptr);
+    FailureHandlerInstaller::SetFailureHandler(nullptr);
   }
 }
 
