@@ -92,6 +92,13 @@ TEST(ZELSysStandardStreamsTest, ArgumentsOfEveryScriptComeWhole)
             "[--child][TellArguments][a b][][\xC3\xA9\xE4\xB8\xAD\xF0\x9F\x98\x80][\"\\]");
 }
 
+// The entry is each system's own, in posix/ and win32/.
+TEST(ZELSysStandardStreamsTest, AReaderThatHasGoneMakesAWriteFailAndEndsNothing)
+{
+  const ChildResult result = ChildProcess::Self("WriteToNobody").Run();
+  EXPECT_TRUE(result.Succeeded()) << result;
+}
+
 TEST(ZELSysStandardStreamsTest, APipeIsNoTerminal)
 {
   EXPECT_EQ(ChildProcess::Self("TellWhetherAPersonLooks").Run().code, 0);

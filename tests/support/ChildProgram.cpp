@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <map>
 
 const char* const ChildProgram::Option = "--child";
@@ -18,7 +19,10 @@ std::map<std::string, ChildProgram::Entry>& Entries()
 
 ChildProgram::ChildProgram(const char* i_name, Entry i_entry)
 {
-  Entries()[i_name] = i_entry;
+  if (Entries().emplace(i_name, i_entry).second)
+    return;
+  std::fprintf(stderr, "two child entries %s\n", i_name);
+  std::abort();
 }
 
 int ChildProgram::Run(const std::string& i_name, const std::vector<std::string>& i_arguments)

@@ -16,7 +16,7 @@ public:
   // The program's first argument when an entry is meant.
   static const char* const Option;
 
-  // Registers an entry.
+  // Registers an entry. A second one of the same name ends the program at its start.
   ChildProgram(const char* i_name, Entry i_entry);
 
   // Runs the entry, or complains and answers 127 when there is none of that name.

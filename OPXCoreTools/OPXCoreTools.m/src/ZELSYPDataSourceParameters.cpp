@@ -286,6 +286,16 @@ void WriteRows(ZELSYPJSONTextWriter& io_writer, const std::vector<TreeNodeProper
   io_writer.End(']');
 }
 
+// Room for the usual row: a text that grows by doubling is copied, and its pages are asked of the system, twice.
+void ReserveRows(std::string& io_text, const std::vector<std::vector<TreeNodeProperties>>& i_blocks)
+{
+  constexpr std::size_t usualRowSize = 192;
+  std::size_t rows = 0;
+  for (const auto& nodes : i_blocks)
+    rows += nodes.size();
+  io_text.reserve(io_text.size() + rows * usualRowSize);
+}
+
 template <typename Value>
 void WriteMember(ZELSYPJSONTextWriter& io_writer, const char* i_key, const Value& i_value)
 {
@@ -613,13 +623,8 @@ Json TreeNodesAnswerParameters::TakeJSON()
 
 void TreeNodesAnswerParameters::WriteJSON(std::string& io_text) const
 {
-  // A text that grows by doubling is copied, and its pages are asked of the system, twice.
-  constexpr std::size_t usualRowSize = 192;
-  std::size_t rows = 0;
-  for (const auto& nodes : _nodesProperties)
-    rows += nodes.size();
-  io_text.reserve(io_text.size() + rows * usualRowSize);
   CheckSizes();
+  ReserveRows(io_text, _nodesProperties);
   ZELSYPJSONTextWriter writer(io_text);
   writer.Begin('{');
   writer.WriteKey("groupedRequestResult");
