@@ -7,7 +7,6 @@
 
 #include "OPXCoreToolsExport.h"
 #include "ZELBaseUnknown.h"
-#include "ZELSYPCheck.h"
 #include "ZELSYPEvent.h"
 
 #include <cstdint>
@@ -20,8 +19,10 @@ public:
   // Holds a reference on the event. Null: "i_pEvent", and there is no event.
   explicit ZELSYPEventArgs(ZELSYPEvent* i_pEvent) : _pEvent(i_pEvent)
   {
-    if (ZELSYP_CHECK_POINTER(i_pEvent))
+    if (__builtin_expect(i_pEvent != nullptr, true))
       i_pEvent->AddRef();
+    else
+      ReportMissingEvent();
   }
   ~ZELSYPEventArgs() override
   {
@@ -44,6 +45,8 @@ public:
   int IsConsumed() const noexcept { return _consumed; }
 
 private:
+  static void ReportMissingEvent();
+
   ZELSYPEvent* const _pEvent;
   ZELBaseUnknown* _pOrigin = nullptr;
   std::int32_t _consumed = 0;

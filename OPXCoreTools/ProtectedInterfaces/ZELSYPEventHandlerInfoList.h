@@ -61,7 +61,6 @@ private:
   const ZELSYPArray<ZELSYPEventHandlerInfo*>& Handlers() const noexcept { return _pSharedData->_handlers; }
 
   bool HasInfoAt(int i_index) const;
-  int FindLastToRemove(int i_end) const;
   bool UpdateDataForModification();
 };
 

@@ -4,7 +4,6 @@
 #include "ZELSYPEventHandler.h"
 #include "ZELSYPEventHandlerInfo.h"
 
-#include <algorithm>
 #include <new>
 
 ZELSYPEventHandlerInfo* ZELSYPEventHandlerInfoList::Get(int i_index) const
@@ -39,27 +38,17 @@ void ZELSYPEventHandlerInfoList::Remove(int i_index)
 
 void ZELSYPEventHandlerInfoList::AutoRemove()
 {
-  for (int index = FindLastToRemove(GetSize()); index >= 0; index = FindLastToRemove(index))
-    Remove(index);
-}
-
-// Asks the registrations before i_end, from the last to the first; -1 when none is to go. Asks those of a snapshot, since
-// a handler that is asked may change this very list.
-int ZELSYPEventHandlerInfoList::FindLastToRemove(int i_end) const
-{
-  const ZELSYPEventHandlerInfoList snapshot(*this);
-  for (int index = std::min(i_end, snapshot.GetSize()) - 1; index >= 0; --index)
+  for (int index = GetSize() - 1; index >= 0; --index)
   {
-    const ZELSYPEventHandlerInfo* const pInfo = snapshot.begin()[index];
+    const ZELSYPEventHandlerInfo* const pInfo = _pSharedData->_handlers[index];
     if (!ZELSYP_CHECK_POINTER(pInfo))
-      return -1;
+      return;
     ZELSYPEventHandler* const pHandler = pInfo->GetHandler();
     if (!ZELSYP_CHECK_POINTER(pHandler))
-      return -1;
+      return;
     if (pHandler->MustBeRemoved())
-      return index;
+      Remove(index);
   }
-  return -1;
 }
 
 bool ZELSYPEventHandlerInfoList::HasInfoAt(int i_index) const
