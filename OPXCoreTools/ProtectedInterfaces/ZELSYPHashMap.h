@@ -115,7 +115,7 @@ int ZELSYPHashMap<K, V, Hasher, Comparator>::Set(const K& i_key, const V& i_valu
 template <class K, class V, auto Hasher, auto Comparator>
 int ZELSYPHashMap<K, V, Hasher, Comparator>::Add(int i_hash, const K& i_key, const V& i_value)
 {
-  void* const pMemory = _pairs.Take();
+  void* const pMemory = _pairs.Take(static_cast<std::size_t>(GetSize()));
   Pair* const pPair = pMemory ? ::new (pMemory) Pair{i_key, i_value} : nullptr;
   if (pPair && _table.InsertHashed(i_hash, pPair))
     return 1;

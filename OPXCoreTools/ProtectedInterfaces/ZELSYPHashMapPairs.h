@@ -1,8 +1,9 @@
 // ZELSYPHashMapPairs<Pair>: the memory of one map's pairs, taken from the heap by the block and handed out one by one.
-// void* pMemory = pairs.Take(); Pair* pPair = new (pMemory) Pair{key, value}; ... pPair->~Pair(); pairs.GiveBack(pMemory);
+// void* pMemory = pairs.Take(0); Pair* pPair = new (pMemory) Pair{key, value}; ... pPair->~Pair(); pairs.GiveBack(pMemory);
 //
-// Pairs that were made one after the other lie one after the other. It runs no constructor and no destructor. One thread
-// at a time.
+// Pairs that were made one after the other lie one after the other. Without pairs it has no memory; the first one stands
+// alone, and each later block has as many as there were before it. It runs no constructor and no destructor. One thread at
+// a time.
 #ifndef ZELSYPHashMapPairs_H
 #define ZELSYPHashMapPairs_H
 
@@ -21,8 +22,8 @@ public:
   ZELSYPHashMapPairs& operator=(const ZELSYPHashMapPairs&) = delete;
   ~ZELSYPHashMapPairs() { ReleaseAll(); }
 
-  // Memory for one pair, or null when there is none.
-  void* Take() noexcept;
+  // Memory for one pair, or null when there is none. i_taken pairs are taken at the time.
+  void* Take(std::size_t i_taken) noexcept;
   // Takes the memory of one pair back; the next Take answers it.
   void GiveBack(void* i_pPair) noexcept { _pFree = ::new (i_pPair) Cell{_pFree}; }
   // Gives every block back to the heap: all memory that Take answered is gone.
@@ -41,31 +42,24 @@ private:
   };
   enum : std::size_t
   {
-    FirstBlock = 4,
+    SecondBlock = 3,
     LargestBlock = 4096
   };
 
-  bool AddBlock() noexcept;
+  bool AddBlock(std::size_t i_cells) noexcept;
 
   Block* _pBlocks = nullptr;
   Cell* _pFree = nullptr;
-  Cell* _pUnused = nullptr;
-  Cell* _pEnd = nullptr;
-  std::size_t _nextBlock = FirstBlock;
 };
 
 template <class Pair>
-inline void* ZELSYPHashMapPairs<Pair>::Take() noexcept
+inline void* ZELSYPHashMapPairs<Pair>::Take(std::size_t i_taken) noexcept
 {
-  if (_pFree)
-  {
-    Cell* const pCell = _pFree;
-    _pFree = pCell->_pNextFree;
-    return pCell;
-  }
-  if (_pUnused == _pEnd && !AddBlock())
+  if (!_pFree && !AddBlock(i_taken == 0 ? 1 : std::clamp<std::size_t>(i_taken, SecondBlock, LargestBlock)))
     return nullptr;
-  return _pUnused++;
+  Cell* const pCell = _pFree;
+  _pFree = pCell->_pNextFree;
+  return pCell;
 }
 
 template <class Pair>
@@ -77,20 +71,19 @@ void ZELSYPHashMapPairs<Pair>::ReleaseAll() noexcept
     _pBlocks = pBlock->_pNext;
     ::operator delete(pBlock);
   }
-  _pFree = _pUnused = _pEnd = nullptr;
-  _nextBlock = FirstBlock;
+  _pFree = nullptr;
 }
 
 template <class Pair>
-bool ZELSYPHashMapPairs<Pair>::AddBlock() noexcept
+bool ZELSYPHashMapPairs<Pair>::AddBlock(std::size_t i_cells) noexcept
 {
-  void* const pMemory = ::operator new(sizeof(Block) + _nextBlock * sizeof(Cell), std::nothrow);
+  void* const pMemory = ::operator new(sizeof(Block) + i_cells * sizeof(Cell), std::nothrow);
   if (!pMemory)
     return false;
   _pBlocks = ::new (pMemory) Block{_pBlocks};
-  _pUnused = reinterpret_cast<Cell*>(_pBlocks + 1);
-  _pEnd = _pUnused + _nextBlock;
-  _nextBlock = std::min<std::size_t>(2 * _nextBlock, LargestBlock);
+  Cell* const pCells = reinterpret_cast<Cell*>(_pBlocks + 1);
+  for (std::size_t index = i_cells; index > 0; --index)
+    GiveBack(&pCells[index - 1]);
   return true;
 }
 

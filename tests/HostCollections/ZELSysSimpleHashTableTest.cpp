@@ -93,7 +93,7 @@ TEST(ZELSysSimpleHashTableTest, NullElementIsNeverTakenFoundOrRemoved)
 
 TEST(ZELSysSimpleHashTableTest, PositionsFollowTheOrderOfInsertionThroughEveryGrowth)
 {
-  for (const int initialSize : {-1, 0, 1, 12, 13, 5000})
+  for (const int initialSize : {-1, 0, 1, 5, 8, 9, 12, 13, 5000})
   {
     ZELSysSimpleHashTable table(initialSize, &HashWord, &SameWord);
     std::vector<Word> words = MakeWords(1000);
@@ -155,6 +155,17 @@ TEST(ZELSysSimpleHashTableTest, RemoveAllEmptiesTheTableForNewElements)
   EXPECT_EQ(nullptr, table.Locate(&words[0]));
   InsertAll(table, words);
   EXPECT_EQ(&words[99], table.Get(99));
+}
+
+TEST(ZELSysSimpleHashTableTest, FewElementsWithOneHashAreToldApart)
+{
+  ZELSysSimpleHashTable table(0, &HashAllAlike, &SameWord);
+  std::vector<Word> words = MakeWords(5);
+  InsertAll(table, words);
+  EXPECT_EQ(&words[3], table.Remove(&words[3]));
+  EXPECT_EQ((std::vector<void*>{&words[0], &words[1], &words[2], &words[4]}), ElementsOf(table));
+  EXPECT_EQ(nullptr, table.Locate(&words[3]));
+  EXPECT_EQ(&words[4], table.Locate(&words[4]));
 }
 
 TEST(ZELSysSimpleHashTableTest, ElementsWithOneAndTheSameHashAreToldApart)

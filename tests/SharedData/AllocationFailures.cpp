@@ -3,6 +3,7 @@
 #include <cstddef>
 
 bool AllocationFailures::s_refusing = false;
+int AllocationFailures::s_granted = 0;
 
 // Whatever is linked into this program calls __wrap_<function> when it names a function of the heap, and the heap's own
 // is called __real_<function> (CMakeLists.txt, which knows the names of the operators).

@@ -1,5 +1,5 @@
 // AllocationFailures: while it lives, memory asked for without exceptions is refused.
-// { AllocationFailures refused; array.Append(1); }
+// { AllocationFailures refused; array.Append(1); }      or AllocationFailures refused(2): the first two requests are granted
 //
 // Everything that is linked into the test program obeys: the headers compiled into it, and the host's hash table, which
 // the program has a copy of. Other libraries go on as they were. One thread at a time.
@@ -11,15 +11,21 @@
 class AllocationFailures
 {
 public:
-  AllocationFailures() noexcept { s_refusing = true; }
+  explicit AllocationFailures(int i_granted = 0) noexcept
+  {
+    s_granted = i_granted;
+    s_refusing = true;
+  }
   ~AllocationFailures() { s_refusing = false; }
   AllocationFailures(const AllocationFailures&) = delete;
   AllocationFailures& operator=(const AllocationFailures&) = delete;
 
-  static bool IsRefusing() noexcept { return s_refusing; }
+  // Asked once for each request.
+  static bool IsRefusing() noexcept { return s_refusing && s_granted-- <= 0; }
 
 private:
   static bool s_refusing;
+  static int s_granted;
 };
 
 #endif

@@ -243,18 +243,73 @@ TEST(ZELSYPHashMapTest, SetWithoutMemoryInTheTableReportsAndFreesThePair)
   RecordingFailureHandler failures;
   const std::shared_ptr<int> value = std::make_shared<int>(1);
   ZELSYPHashMap<int*, std::shared_ptr<int>> map;
-  int keys[13] = {};
-  for (int index = 0; index < 12; ++index)
-    ASSERT_EQ(1, map.Set(&keys[index], value));
+  int key = 0;
   {
-    AllocationFailures refused;
-    EXPECT_EQ(-1, map.Set(&keys[12], value));
+    AllocationFailures refused(1);
+    EXPECT_EQ(-1, map.Set(&key, value));
   }
   EXPECT_THAT(failures.GetMessages(), ElementsAre("Failed to add the element"));
-  EXPECT_EQ(13, value.use_count());
-  EXPECT_EQ(12, map.GetSize());
-  EXPECT_EQ(value, *map.Locate(&keys[11]));
-  EXPECT_EQ(1, map.Set(&keys[12], value));
+  EXPECT_EQ(1, value.use_count());
+  EXPECT_EQ(0, map.GetSize());
+  EXPECT_EQ(1, map.Set(&key, value));
+  EXPECT_EQ(value, *map.Locate(&key));
+}
+
+TEST(ZELSYPHashMapTest, SetThatFindsNoMemoryAtAnySizeLeavesTheMapAsItWas)
+{
+  RecordingFailureHandler failures;
+  const std::shared_ptr<int> value = std::make_shared<int>(1);
+  ZELSYPHashMap<int*, std::shared_ptr<int>> map;
+  std::vector<int> keys(100);
+  int refusals = 0;
+  for (int& key : keys)
+    for (int granted = 0; !map.Locate(&key); ++granted)
+    {
+      const int size = map.GetSize();
+      const AllocationFailures refused(granted);
+      if (map.Set(&key, value) == 1)
+        continue;
+      ++refusals;
+      ASSERT_EQ(size, map.GetSize());
+      ASSERT_EQ(size + 1, value.use_count());
+      for (int index = 0; index < size; ++index)
+        ASSERT_EQ(value, *map.Locate(&keys[static_cast<std::size_t>(index)]));
+    }
+  EXPECT_EQ(100, map.GetSize());
+  EXPECT_EQ(refusals, static_cast<int>(failures.GetMessages().size()));
+  EXPECT_GE(refusals, 8) << "pairs and table grow several times each";
+}
+
+TEST(ZELSYPHashMapTest, EmptyMapAsksForNoMemory)
+{
+  RecordingFailureHandler failures;
+  const AllocationFailures refused;
+  const AddressMap map(1000);
+  EXPECT_EQ(nullptr, map.Locate(Address(1)));
+  EXPECT_TRUE(AddressMap::Iterator(map).IsDone());
+  EXPECT_THAT(failures.GetMessages(), IsEmpty());
+  EXPECT_LE(sizeof(AddressMap), 8 * sizeof(void*));
+}
+
+TEST(ZELSYPHashMapTest, KeysComeAndGoAtEverySmallSize)
+{
+  for (std::uintptr_t size = 1; size <= 40; ++size)
+  {
+    AddressMap map;
+    for (std::uintptr_t key = 0; key < size; ++key)
+      ASSERT_EQ(1, map.Set(Address(key), static_cast<int>(key)));
+    for (std::uintptr_t removed = 0; removed < size; ++removed)
+    {
+      ASSERT_EQ(nullptr, map.Locate(Address(size)));
+      ASSERT_EQ(1, map.Remove(Address(removed)));
+      ASSERT_EQ(0, map.Remove(Address(removed)));
+      for (std::uintptr_t key = removed + 1; key < size; ++key)
+        ASSERT_EQ(static_cast<int>(key), *map.Locate(Address(key)));
+    }
+    ASSERT_EQ(0, map.GetSize());
+    ASSERT_EQ(1, map.Set(Address(size), 5));
+    ASSERT_THAT(ValuesOf(map), ElementsAre(5));
+  }
 }
 
 TEST(ZELSYPHashMapTest, WalkAnswersEveryPairInTheOrderItCame)

@@ -7,16 +7,19 @@
 
 namespace
 {
-// Of a group's 15 slots: full enough to be small, empty enough that few elements pass by their first group.
-const std::size_t ElementsPerGroup = 12;
+// So many are found faster, and in less memory, without an index.
+const std::size_t LargestWithoutIndex = 8;
+const std::size_t FirstCapacity = 2;
+// Of a group's seven slots: full enough to be small, empty enough that few elements pass by their first group.
+const std::size_t ElementsPerGroup = 5;
 // Positions are ints.
 const std::size_t MaximumGroups = std::size_t{1} << 28;
-const std::align_val_t BlockAlignment{64};
+const std::align_val_t GroupAlignment{64};
 
-std::size_t GroupsFor(int i_size)
+std::size_t GroupsFor(std::size_t i_capacity)
 {
   std::size_t groups = 1;
-  while (groups * ElementsPerGroup < static_cast<std::size_t>(std::max(i_size, 1)))
+  while (groups * ElementsPerGroup < i_capacity)
     groups *= 2;
   return groups;
 }
@@ -26,32 +29,16 @@ int ShiftFor(std::size_t i_groupCount)
 {
   return 64 - 8 - __builtin_ctzll(i_groupCount);
 }
-
-// Cuts the next i_count objects off the front of a block of memory.
-template <class T>
-T* Cut(char*& io_memory, std::size_t i_count)
-{
-  T* const array = reinterpret_cast<T*>(io_memory);
-  io_memory += i_count * sizeof(T);
-  return array;
-}
 } // namespace
 
-alignas(64) const ZELSysSimpleHashTable::Group ZELSysSimpleHashTable::s_noElements = {};
-
-// The group without elements is looked into, never written: its capacity is 0.
 ZELSysSimpleHashTable::ZELSysSimpleHashTable(int i_size, HashFunction i_hash, CompareFunction i_compare)
-    : _block{const_cast<Group*>(&s_noElements), nullptr, nullptr, nullptr, nullptr, 0, ShiftFor(1), 0},
-      _size(0),
-      _initialSize(i_size),
-      _hash(i_hash),
-      _compare(i_compare)
+    : _groups(nullptr), _elements(nullptr), _size(0), _capacity(0), _initialSize(i_size), _shift(0), _hash(i_hash), _compare(i_compare)
 {
 }
 
 ZELSysSimpleHashTable::~ZELSysSimpleHashTable()
 {
-  Free(_block);
+  FreeMemory();
 }
 
 int ZELSysSimpleHashTable::Insert(void* i_element)
@@ -87,114 +74,140 @@ void* ZELSysSimpleHashTable::Remove(const void* i_element)
 
 void ZELSysSimpleHashTable::RemoveAll()
 {
-  if (_block._capacity != 0)
-    std::memset(_block._groups, 0, (_block._groupMask + 1) * sizeof(Group));
+  if (_groups)
+    ClearIndex();
   _size = 0;
 }
 
 void* ZELSysSimpleHashTable::InsertHashed(int i_hash, void* i_element) noexcept
 {
-  if (_size == _block._capacity && !Grow())
+  if (_size == _capacity && !Grow())
     return nullptr;
-  _block._elements[_size] = i_element;
-  _block._hashes[_size] = i_hash;
-  Place(_size++);
+  _elements[_size] = i_element;
+  Hashes()[_size] = i_hash;
+  if (_groups)
+    Place(_size);
+  ++_size;
   return i_element;
 }
 
-bool ZELSysSimpleHashTable::Allocate(std::size_t i_groupCount, Block& o_block) noexcept
+std::size_t ZELSysSimpleHashTable::NextCapacity() const noexcept
 {
-  if (i_groupCount > MaximumGroups)
-    return false;
-  const std::size_t slots = i_groupCount * SlotsPerGroup;
-  const std::size_t elements = i_groupCount * ElementsPerGroup;
-  const std::size_t bytes = i_groupCount * sizeof(Group) + (slots + elements) * (sizeof(void*) + sizeof(int));
-  char* memory = static_cast<char*>(::operator new(bytes, BlockAlignment, std::nothrow));
-  if (!memory)
-    return false;
-  o_block._groups = Cut<Group>(memory, i_groupCount);
-  o_block._slots = Cut<void*>(memory, slots);
-  o_block._elements = Cut<void*>(memory, elements);
-  o_block._positions = Cut<std::uint32_t>(memory, slots);
-  o_block._hashes = Cut<int>(memory, elements);
-  o_block._groupMask = i_groupCount - 1;
-  o_block._shift = ShiftFor(i_groupCount);
-  o_block._capacity = static_cast<int>(std::min<std::size_t>(elements, INT_MAX));
-  std::memset(o_block._groups, 0, i_groupCount * sizeof(Group));
-  return true;
-}
-
-void ZELSysSimpleHashTable::Free(const Block& i_block) noexcept
-{
-  if (i_block._capacity != 0)
-    ::operator delete(i_block._groups, BlockAlignment);
+  if (_capacity == 0)
+    return _initialSize > 0 ? static_cast<std::size_t>(_initialSize) : FirstCapacity;
+  return std::max(LargestWithoutIndex, 2 * static_cast<std::size_t>(_capacity));
 }
 
 bool ZELSysSimpleHashTable::Grow() noexcept
 {
-  const Block old = _block;
-  if (!Allocate(old._capacity == 0 ? GroupsFor(_initialSize) : 2 * (old._groupMask + 1), _block))
+  const std::size_t capacity = NextCapacity();
+  if (capacity <= LargestWithoutIndex)
+    return Reallocate(capacity, 0);
+  const std::size_t groups = GroupsFor(capacity);
+  return groups <= MaximumGroups && Reallocate(groups * ElementsPerGroup, groups);
+}
+
+bool ZELSysSimpleHashTable::Reallocate(std::size_t i_capacity, std::size_t i_groupCount) noexcept
+{
+  const std::size_t bytes =
+      i_capacity * (sizeof(void*) + sizeof(int)) + i_groupCount * (sizeof(Group) + SlotsPerGroup * sizeof(std::uint32_t));
+  void* const memory = i_groupCount == 0 ? ::operator new(bytes, std::nothrow) : ::operator new(bytes, GroupAlignment, std::nothrow);
+  if (!memory)
     return false;
+  Group* const groups = i_groupCount == 0 ? nullptr : static_cast<Group*>(memory);
+  void** const elements = groups ? reinterpret_cast<void**>(groups + i_groupCount) : static_cast<void**>(memory);
   if (_size != 0)
   {
-    std::memcpy(_block._elements, old._elements, static_cast<std::size_t>(_size) * sizeof(void*));
-    std::memcpy(_block._hashes, old._hashes, static_cast<std::size_t>(_size) * sizeof(int));
+    std::memcpy(elements, _elements, static_cast<std::size_t>(_size) * sizeof(void*));
+    std::memcpy(elements + i_capacity, Hashes(), static_cast<std::size_t>(_size) * sizeof(int));
   }
+  FreeMemory();
+  _elements = elements;
+  _groups = groups;
+  _capacity = static_cast<int>(i_capacity);
+  if (groups)
+    EnterAll(i_groupCount);
+  return true;
+}
+
+void ZELSysSimpleHashTable::FreeMemory() noexcept
+{
+  if (_groups)
+    ::operator delete(_groups, GroupAlignment);
+  else
+    ::operator delete(_elements);
+}
+
+// Enters the elements into an index of so many groups, whose memory is there.
+void ZELSysSimpleHashTable::EnterAll(std::size_t i_groupCount) noexcept
+{
+  _shift = ShiftFor(i_groupCount);
+  ClearIndex();
   for (int position = 0; position < _size; ++position)
     Place(position);
-  Free(old);
-  return true;
+}
+
+void ZELSysSimpleHashTable::ClearIndex() noexcept
+{
+  Group* const pEnd = _groups + GroupCount();
+  for (Group* pGroup = _groups; pGroup != pEnd; ++pGroup)
+    std::memset(pGroup, 0, sizeof(pGroup->_tags) + sizeof(pGroup->_passed));
+}
+
+std::uint32_t& ZELSysSimpleHashTable::PositionOf(const Slot& i_slot) const noexcept
+{
+  std::uint32_t* const positions = reinterpret_cast<std::uint32_t*>(Hashes() + _capacity);
+  return positions[static_cast<std::size_t>(i_slot._pGroup - _groups) * SlotsPerGroup + i_slot._index];
 }
 
 // Enters the element that stands at the position into the index. There is room: a group has more slots than its share.
 void ZELSysSimpleHashTable::Place(int i_position) noexcept
 {
-  const std::uint64_t spread = Spread(_block._hashes[i_position]);
-  std::size_t group = HomeOf(spread);
-  unsigned freeSlots = Matches(_block._groups[group], 0);
+  const std::uint64_t spread = Spread(Hashes()[i_position]);
+  std::size_t number = HomeOf(spread);
+  unsigned freeSlots = Matches(_groups[number], 0);
   for (std::size_t step = 1; freeSlots == 0; ++step)
   {
-    if (_block._groups[group]._passed != UCHAR_MAX)
-      ++_block._groups[group]._passed;
-    group = (group + step) & _block._groupMask;
-    freeSlots = Matches(_block._groups[group], 0);
+    if (_groups[number]._passed != UCHAR_MAX)
+      ++_groups[number]._passed;
+    number = (number + step) & (GroupCount() - 1);
+    freeSlots = Matches(_groups[number], 0);
   }
-  const std::size_t index = static_cast<std::size_t>(__builtin_ctz(freeSlots));
-  _block._groups[group]._tags[index] = TagOf(spread);
-  _block._slots[group * SlotsPerGroup + index] = _block._elements[i_position];
-  _block._positions[group * SlotsPerGroup + index] = static_cast<std::uint32_t>(i_position);
+  const Slot slot{&_groups[number], static_cast<std::size_t>(__builtin_ctz(freeSlots))};
+  slot._pGroup->_tags[slot._index] = TagOf(spread);
+  slot._pGroup->_slots[slot._index] = _elements[i_position];
+  PositionOf(slot) = static_cast<std::uint32_t>(i_position);
 }
 
-void* ZELSysSimpleHashTable::TakeOut(std::size_t i_slot) noexcept
+void* ZELSysSimpleHashTable::TakeOut(const Slot& i_slot) noexcept
 {
-  void* const element = _block._slots[i_slot];
-  const int position = static_cast<int>(_block._positions[i_slot]);
-  ForgetPassing(_block._hashes[position], i_slot);
-  _block._groups[i_slot / SlotsPerGroup]._tags[i_slot % SlotsPerGroup] = 0;
-  MoveLastTo(position);
+  const int position = static_cast<int>(PositionOf(i_slot));
+  ForgetPassing(Hashes()[position], i_slot._pGroup);
+  i_slot._pGroup->_tags[i_slot._index] = 0;
+  return TakeOut(position);
+}
+
+// Takes the element out of the array. The last one moves to its position.
+void* ZELSysSimpleHashTable::TakeOut(int i_position) noexcept
+{
+  void* const element = _elements[i_position];
+  void* const last = _elements[--_size];
+  const int hash = Hashes()[_size];
+  if (_groups && i_position != _size)
+    PositionOf(FindSlot(hash, [last](const void* i_other) { return i_other == last; })) = static_cast<std::uint32_t>(i_position);
+  _elements[i_position] = last;
+  Hashes()[i_position] = hash;
   return element;
 }
 
-// The element in the slot no longer passed by the groups on its way there.
-void ZELSysSimpleHashTable::ForgetPassing(int i_hash, std::size_t i_slot) noexcept
+// The element that stood in the group no longer passes by the groups on its way there.
+void ZELSysSimpleHashTable::ForgetPassing(int i_hash, const Group* i_pGroup) noexcept
 {
-  std::size_t group = HomeOf(Spread(i_hash));
-  for (std::size_t step = 1; group != i_slot / SlotsPerGroup; ++step)
+  std::size_t number = HomeOf(Spread(i_hash));
+  for (std::size_t step = 1; &_groups[number] != i_pGroup; ++step)
   {
-    if (_block._groups[group]._passed != UCHAR_MAX)
-      --_block._groups[group]._passed;
-    group = (group + step) & _block._groupMask;
+    if (_groups[number]._passed != UCHAR_MAX)
+      --_groups[number]._passed;
+    number = (number + step) & (GroupCount() - 1);
   }
-}
-
-void ZELSysSimpleHashTable::MoveLastTo(int i_position) noexcept
-{
-  const int last = --_size;
-  if (i_position == last)
-    return;
-  const int hash = _block._hashes[last];
-  const std::size_t slot = FindSlot(hash, [&](std::size_t i_slot) { return _block._positions[i_slot] == static_cast<unsigned>(last); });
-  _block._positions[slot] = static_cast<std::uint32_t>(i_position);
-  _block._elements[i_position] = _block._elements[last];
-  _block._hashes[i_position] = hash;
 }
