@@ -37,6 +37,7 @@ struct ZELEventSubscriber::Subscriptions
   std::list<Entry> _entries;
   Subscription _last = 0;
   int _running = 0;
+  bool _hasEnded = false;
   bool _isOrphan = false;
 
   void ClearAway();
@@ -50,6 +51,8 @@ void ZELEventSubscriber::Subscriptions::ClearAway()
     delete this;
     return;
   }
+  if (!std::exchange(_hasEnded, false))
+    return;
   std::list<Entry> ended;
   for (auto entry = _entries.begin(); entry != _entries.end();)
   {
@@ -94,6 +97,7 @@ int ZELEventSubscriber::Unsubscribe(Subscription i_subscription)
   if (found == entries.end() || !found->_isActive)
     return 0;
   found->_isActive = false;
+  _pSubscriptions->_hasEnded = true;
   const Subscriptions::Running clearsAway(_pSubscriptions);
   return 1;
 }
