@@ -29,25 +29,30 @@ void ZELSYPEventPathElt::Dispatch(ZELSYPEventArgs* i_pArgs) const
 {
   if (!ZELSYP_CHECK_HANDLER(_spNode) || !ZELSYP_CHECK_POINTER(i_pArgs))
     return;
-  for (int list = 0; list < _lists.GetLength(); ++list)
-    for (int index = 0; index < _lists.begin()[list].GetSize(); ++index)
-      if (!RunHandler(list, index, *i_pArgs))
-        return;
+  // Looked up again for every list: a handler may add lists to this very stop.
+  for (int list = 0; list < _lists.GetLength() && RunList(list, *i_pArgs); ++list)
+  {
+  }
 }
 
-// Looked up from the stop for every handler: a handler may add lists to this very stop.
-bool ZELSYPEventPathElt::RunHandler(int i_list, int i_index, ZELSYPEventArgs& io_args) const
+// The registrations stay where they are while the handlers run: the list is a snapshot that nobody writes to.
+inline bool ZELSYPEventPathElt::RunList(int i_list, ZELSYPEventArgs& io_args) const
 {
-  ZELSYPEventHandlerInfo* const pInfo = _lists.begin()[i_list].begin()[i_index];
-  if (!ZELSYP_CHECK_POINTER(pInfo))
-    return false;
-  ZELSYPEventHandler* const pHandler = pInfo->GetHandler();
-  if (!ZELSYP_CHECK_POINTER(pHandler))
-    return false;
-  if (__builtin_expect(ZELSYPDispatchObserver::AnyLives(), false))
-    RunObserved(i_list, i_index, *pInfo, io_args);
-  else if (MayRun(*pInfo, io_args))
-    pHandler->Handle(_spNode.Get(), &io_args);
+  ZELSYPEventHandlerInfo* const* const pBegin = _lists.begin()[i_list].begin();
+  ZELSYPEventHandlerInfo* const* const pEnd = _lists.begin()[i_list].end();
+  for (ZELSYPEventHandlerInfo* const* pEach = pBegin; pEach != pEnd; ++pEach)
+  {
+    ZELSYPEventHandlerInfo* const pInfo = *pEach;
+    if (!ZELSYP_CHECK_POINTER(pInfo))
+      return false;
+    ZELSYPEventHandler* const pHandler = pInfo->GetHandler();
+    if (!ZELSYP_CHECK_POINTER(pHandler))
+      return false;
+    if (__builtin_expect(ZELSYPDispatchObserver::AnyLives(), false))
+      RunObserved(i_list, static_cast<int>(pEach - pBegin), *pInfo, io_args);
+    else if (MayRun(*pInfo, io_args))
+      pHandler->Handle(_spNode.Get(), &io_args);
+  }
   return true;
 }
 

@@ -28,7 +28,7 @@ struct ZELSYPRecycledBlocks::Kept
   static std::size_t BytesOf(std::size_t i_kind, std::size_t i_bytes) noexcept;
 };
 
-thread_local ZELSYPRecycledBlocks::Kept ZELSYPRecycledBlocks::Kept::t_kept;
+[[gnu::tls_model("initial-exec")]] thread_local ZELSYPRecycledBlocks::Kept ZELSYPRecycledBlocks::Kept::t_kept;
 
 struct ZELSYPRecycledBlocks::KeptUntilThreadEnds
 {
