@@ -3,6 +3,7 @@ import unittest
 
 import check_texts
 import exported_symbols
+import shown_code
 import source_rules
 
 
@@ -68,6 +69,23 @@ class ExportedSymbols(unittest.TestCase):
                    "_ZTVN5boost3fooE", "_ZZNSt19_Sp_make_shared_tag5_S_tiEvE5__tag"]
         mine = ["_Z14CheckFailure__PKcS0_iS0_", "_ZN9ZELStringC1EPKc", "_ZTV9ZELString", "_ZNK9ZELString7GetViewEv"]
         self.assertEqual(exported_symbols.ours([*foreign, *mine]), mine)
+
+
+class ShownCode(unittest.TestCase):
+    def test_a_block_is_found_whatever_its_indentation(self):
+        page = "Right:\n\n```cpp\nif (a)\n  b();\n```\n"
+        self.assertEqual(shown_code.unfounded_blocks(page, ["void f()\n{\n  if (a)\n    b();\n}\n"]), [])
+
+    def test_a_block_that_differs_in_one_line_is_reported(self):
+        page = "```cpp\na();\nb();\n```\n\n```cpp\nc();\n```\n"
+        self.assertEqual(shown_code.unfounded_blocks(page, ["a();\nx();\nb();\n", "c();\n"]), ["a();"])
+
+    def test_code_of_other_languages_is_not_looked_for(self):
+        self.assertEqual(shown_code.unfounded_blocks("```\nprinted\n```\n", []), [])
+
+    def test_a_page_with_code_says_what_is_right_and_what_is_wrong(self):
+        self.assertEqual(shown_code.missing_halves("Right: this.\n\n```cpp\na();\n```\n"), ["Wrong"])
+        self.assertEqual(shown_code.missing_halves("Nothing is shown.\n"), [])
 
 
 if __name__ == "__main__":
