@@ -7,15 +7,21 @@
 #define OPXExplorerDirectorySource_H
 
 #include "OPXExplorerListingCache.h"
-#include "OPXTreeDataSource.h"
+#include "OPXTreeRowsSource.h"
+#include "ZELSYPAbstractDataSource.h"
 #include "ZELSysRootedDirectory.h"
 
+#include <cstddef>
+#include <set>
 #include <string>
 #include <vector>
 
-class OPXExplorerDirectorySource : public OPXTreeDataSource
+class OPXExplorerDirectorySource : public ZELSYPAbstractDataSource, public OPXTreeRowsSource
 {
 public:
+  // That can be selected at a time.
+  static constexpr std::size_t MaxSelected = 10000;
+
   explicit OPXExplorerDirectorySource(ZELSysRootedDirectory i_root);
 
   // Rows: "id", "name", "kind" ("directory", "file", "link", "other"), "size" in bytes, "modified" in ISO 8601, UTC;
@@ -29,8 +35,14 @@ public:
   RequestStructure(const ZELSYPDataSourceParameters::TreeNodesModelStructureParameters& i_request) override;
 
   // Wants collapsed again what was expanded and is no directory that can be read.
-  ZELSYPDataSourceParameters::ModelCollapseExpandAnswerParameters
-  RequestCollapseExpand(const ZELSYPDataSourceParameters::ModelCollapseExpandParameters& i_change) override;
+  void RequestModelCollapseExpand(const ZELSYPDataSourceParameters::ModelCollapseExpandParameters& i_change,
+                                  ModelCollapseExpandCallback i_callback) override;
+
+  // Keeps the selection. A node is named by its OPXExplorerNodeID, or by its place in the order without a sort model. Wants
+  // deselected again what was added and is not there, or beyond MaxSelected. Then, when the selection has become another
+  // one, raises SelectionChanged with the ids of the nodes that came and went.
+  void RequestSelectionChange(const ZELSYPDataSourceParameters::SelectionChangeParameters& i_change,
+                              SelectionChangeCallback i_callback) override;
 
 private:
   using Path = std::vector<std::string>;
@@ -42,8 +54,18 @@ private:
   Block TryReadBlock(const Path& i_path, int i_first, int i_last, const OPXExplorerListing::SortModel& i_sortModel);
   Block ReadBlock(const Path& i_path, int i_first, int i_last, const OPXExplorerListing::SortModel& i_sortModel);
 
+  bool IsNode(const std::string& i_id) const;
+  // Empty when there is no such node.
+  std::string FindID(const ZELSYPDataSourceParameters::IndexPath& i_path);
+  // False when it cannot be selected.
+  bool Select(const std::string& i_id, std::vector<std::string>& io_added);
+  void Deselect(const std::string& i_id, std::vector<std::string>& io_removed);
+  void RaiseSelectionChanged(std::vector<std::string> i_added, std::vector<std::string> i_removed);
+
   ZELSysRootedDirectory _root;
   OPXExplorerListingCache _cache;
+  // The ids of nodes.
+  std::set<std::string> _selection;
 };
 
 #endif

@@ -1,29 +1,19 @@
-// OPXTreeDataSource: what a tree session asks of the object that knows the tree.
+// OPXTreeDataSource: a data source with its rows that answers every request at once, by what its operations return.
 // class Countries : public OPXTreeDataSource { TreeNodesAnswerParameters RequestRows(...) override; ... };
 //
-// Every operation is called on the session's thread, with a record whose message has been found sound. An exception of
-// any of them becomes an internal error in the answer and harms nothing else.
+// What is said of OPXTreeRowsSource's operations holds for the ones added here.
 #ifndef OPXTreeDataSource_H
 #define OPXTreeDataSource_H
 
 #include "OPXTreeBridgeExport.h"
-#include "ZELSYPDataSourceParameters.h"
+#include "OPXTreeRowsSource.h"
+#include "ZELSYPAbstractDataSource.h"
 
-class OPXTREEBRIDGE_EXPORT OPXTreeDataSource
+class OPXTREEBRIDGE_EXPORT OPXTreeDataSource : public ZELSYPAbstractDataSource, public OPXTreeRowsSource
 {
 public:
-  OPXTreeDataSource() = default;
-  OPXTreeDataSource(const OPXTreeDataSource&) = delete;
-  OPXTreeDataSource& operator=(const OPXTreeDataSource&) = delete;
-  virtual ~OPXTreeDataSource();
-
-  // The rows of each request, in request order. A request whose parent is unknown is marked as not found.
-  virtual ZELSYPDataSourceParameters::TreeNodesAnswerParameters
-  RequestRows(const ZELSYPDataSourceParameters::TreeNodesRequestParameters& i_request) = 0;
-
-  // The node tree under the first group-key list, or JSON null when there is no such node.
-  virtual ZELSYPDataSourceParameters::TreeNodesModelStructureAnswerParameters
-  RequestStructure(const ZELSYPDataSourceParameters::TreeNodesModelStructureParameters& i_request) = 0;
+  OPXTreeDataSource();
+  ~OPXTreeDataSource() override;
 
   // The paths that the source wants collapsed and expanded in return; by default none.
   virtual ZELSYPDataSourceParameters::ModelCollapseExpandAnswerParameters
@@ -35,6 +25,13 @@ public:
 
   // Told of a click or another pointer event; by default nothing happens.
   virtual void RequestPointerEvent(const ZELSYPDataSourceParameters::PointerEventParameters& i_event);
+
+  // Hand what the operations above return to the callback.
+  void RequestModelCollapseExpand(const ZELSYPDataSourceParameters::ModelCollapseExpandParameters& i_change,
+                                  ModelCollapseExpandCallback i_callback) final;
+  void RequestPointerEvent(const ZELSYPDataSourceParameters::PointerEventParameters& i_event, PointerEventCallback i_callback) final;
+  void RequestSelectionChange(const ZELSYPDataSourceParameters::SelectionChangeParameters& i_change,
+                              SelectionChangeCallback i_callback) final;
 };
 
 #endif

@@ -59,9 +59,7 @@ template <class Kind>
 class DataSourceEventArgsTest : public testing::Test
 {
 protected:
-  using Args = typename Kind::Args;
-
-  Args args{Kind::GetEvent(), Kind::GetPayload(), [this](json& io_answer) { answered.push_back(io_answer); }};
+  typename Kind::Args args{Kind::GetEvent(), Kind::GetPayload(), [this](json& io_answer) { answered.push_back(io_answer); }};
   std::vector<json> answered;
 };
 

@@ -1,8 +1,10 @@
 #include "OPXExplorerDirectorySource.h"
 
 #include "OPXExplorerEntryID.h"
+#include "OPXExplorerNodeID.h"
 #include "OPXExplorerStructureBuilder.h"
 #include "OPXExplorerTime.h"
+#include "ZELSYPSelectionChangedEventArgs.h"
 
 #include <algorithm>
 #include <climits>
@@ -44,6 +46,13 @@ Records::TreeNodeProperties MakeRow(const OPXExplorerListing::Entry& i_entry, co
     properties["modified"] = OPXExplorerTime::MakeISO8601(details.lastWriteTime);
   }
   return {std::move(id), std::move(properties), i_entry.kind == ZELSysRootedDirectory::Directory, -1};
+}
+
+Records::SelectionChangeParameters MakeDeselection(Records::NodesPath i_nodes)
+{
+  if (i_nodes.ids.empty())
+    return {std::vector<Records::IndexPath>(), std::move(i_nodes.indexPaths)};
+  return {std::vector<std::string>(), std::move(i_nodes.ids)};
 }
 } // namespace
 
@@ -132,13 +141,82 @@ OPXExplorerDirectorySource::RequestStructure(const Records::TreeNodesModelStruct
       builder.Build(path.empty() ? std::string() : path.back(), i_request.GetExpandNbLevels()));
 }
 
-Records::ModelCollapseExpandAnswerParameters
-OPXExplorerDirectorySource::RequestCollapseExpand(const Records::ModelCollapseExpandParameters& i_change)
+void OPXExplorerDirectorySource::RequestModelCollapseExpand(const Records::ModelCollapseExpandParameters& i_change,
+                                                            ModelCollapseExpandCallback i_callback)
 {
   std::vector<Path> collapsed;
   std::vector<Path> expanded;
   for (const Path& path : i_change.GetPathIdsToExpand())
     if (!Find(path).IsOpen())
       collapsed.push_back(path);
-  return Records::ModelCollapseExpandAnswerParameters(collapsed, expanded);
+  i_callback(Records::ModelCollapseExpandAnswerParameters(collapsed, expanded));
+}
+
+void OPXExplorerDirectorySource::RequestSelectionChange(const Records::SelectionChangeParameters& i_change,
+                                                        SelectionChangeCallback i_callback)
+{
+  std::vector<std::string> added;
+  std::vector<std::string> removed;
+  Records::NodesPath refused;
+  for (const std::string& id : i_change.GetRemovedNodes().ids)
+    Deselect(id, removed);
+  for (const Records::IndexPath& path : i_change.GetRemovedNodes().indexPaths)
+    Deselect(FindID(path), removed);
+  for (const std::string& id : i_change.GetAddedNodes().ids)
+    if (!Select(id, added))
+      refused.ids.push_back(id);
+  for (const Records::IndexPath& path : i_change.GetAddedNodes().indexPaths)
+    if (!Select(FindID(path), added))
+      refused.indexPaths.push_back(path);
+  i_callback(MakeDeselection(std::move(refused)));
+  RaiseSelectionChanged(std::move(added), std::move(removed));
+}
+
+bool OPXExplorerDirectorySource::IsNode(const std::string& i_id) const
+{
+  Path path = OPXExplorerNodeID::GetEntryIDs(i_id);
+  const std::string name = OPXExplorerEntryID::GetName(path.back());
+  path.pop_back();
+  const ZELSysRootedDirectory directory = Find(path);
+  ZELSysRootedDirectory::Details details;
+  return directory.IsOpen() && directory.GetDetails(name, details);
+}
+
+std::string OPXExplorerDirectorySource::FindID(const Records::IndexPath& i_path)
+{
+  Path path;
+  for (const int index : i_path)
+  {
+    const int next = index < INT_MAX ? index + 1 : index;
+    const Block block = index < 0 ? Block() : TryReadBlock(path, index, next, {});
+    if (block.rows.empty())
+      return {};
+    path.push_back(block.rows[0].GetID());
+  }
+  return OPXExplorerNodeID::Make(path);
+}
+
+bool OPXExplorerDirectorySource::Select(const std::string& i_id, std::vector<std::string>& io_added)
+{
+  if (_selection.count(i_id) > 0)
+    return true;
+  if (_selection.size() == MaxSelected || !IsNode(i_id))
+    return false;
+  _selection.insert(i_id);
+  io_added.push_back(i_id);
+  return true;
+}
+
+void OPXExplorerDirectorySource::Deselect(const std::string& i_id, std::vector<std::string>& io_removed)
+{
+  if (_selection.erase(i_id) > 0)
+    io_removed.push_back(i_id);
+}
+
+void OPXExplorerDirectorySource::RaiseSelectionChanged(std::vector<std::string> i_added, std::vector<std::string> i_removed)
+{
+  if (i_added.empty() && i_removed.empty())
+    return;
+  ZELSYPSelectionChangedEventArgs args(SelectionChanged(), {std::move(i_added), std::move(i_removed)}, nullptr);
+  Dispatch(&args);
 }

@@ -11,14 +11,16 @@
 
 namespace
 {
-int Serve(ZELSysRootedDirectory i_root, const OPXExplorerOptions& i_options)
+OPXExplorerOptions::ExitCode Serve(OPXExplorerDirectorySource& io_source)
 {
-  OPXExplorerDirectorySource source(std::move(i_root));
-  const OPXTreeSession session(source);
-  if (!i_options.IsStdio())
-    return OPXExplorerTreePrinter(session, i_options.GetRows()).Print() ? OPXExplorerOptions::Done : OPXExplorerOptions::NotReadable;
-  OPXExplorerStdioServer(session).Run();
+  OPXExplorerStdioServer(io_source, io_source).Run();
   return OPXExplorerOptions::Done;
+}
+
+OPXExplorerOptions::ExitCode Print(OPXExplorerDirectorySource& io_source, int i_rows)
+{
+  const OPXTreeSession session(io_source);
+  return OPXExplorerTreePrinter(session, i_rows).Print() ? OPXExplorerOptions::Done : OPXExplorerOptions::NotReadable;
 }
 } // namespace
 
@@ -29,8 +31,11 @@ int main(int i_count, char** i_pArguments)
   if (const auto code = options.Parse(ZELSysGetArguments(i_count, i_pArguments)))
     return *code;
   ZELSysRootedDirectory root(ZELUnicodeString::FromUTF8(options.GetDirectory()));
-  if (root.IsOpen())
-    return Serve(std::move(root), options);
-  ZELSysWriteStandardError("opx-explorer: cannot read the directory " + options.GetDirectory() + "\n");
-  return OPXExplorerOptions::NotReadable;
+  if (!root.IsOpen())
+  {
+    ZELSysWriteStandardError("opx-explorer: cannot read the directory " + options.GetDirectory() + "\n");
+    return OPXExplorerOptions::NotReadable;
+  }
+  OPXExplorerDirectorySource source(std::move(root));
+  return options.IsStdio() ? Serve(source) : Print(source, options.GetRows());
 }

@@ -11,7 +11,8 @@ constexpr const char* purpose = "Shows the tree of a directory: its first two le
 
 constexpr const char* footer = "Without --stdio the first rows of the directory and of its subdirectories are printed; times are UTC.\n"
                                "With --stdio each line of the input is a JSON-RPC 2.0 message, answered by a line of the output. Methods:\n"
-                               "  tree/rows, tree/structure, tree/selectionChange, tree/collapseExpand, tree/pointerEvent\n"
+                               "  tree/rows, tree/structure, tree/selectionChange, tree/collapseExpand, tree/pointerEvent, tree/succeeded\n"
+                               "What changes is told by lines of the output that answer nothing: tree/selectionChanged\n"
                                "Exit codes:\n"
                                "  0  done; also when the input ends or nobody reads the output any more\n"
                                "  1  the directory cannot be read\n"

@@ -1,26 +1,28 @@
 #include "OPXExplorerStdioServer.h"
 
-#include "OPXTreeSession.h"
 #include "ZELSysStandardStreams.h"
 
-OPXExplorerStdioServer::OPXExplorerStdioServer(const OPXTreeSession& i_session)
-    : _session(i_session), _reader(ZELSysReadStandardInput, OPXTreeSession::MaxMessageSize)
+OPXExplorerStdioServer::OPXExplorerStdioServer(ZELSYPAbstractDataSource& i_source, OPXTreeRowsSource& i_rows)
+    : _session(i_source, i_rows, [this](const std::string& i_message) { Write(i_message); }),
+      _reader(ZELSysReadStandardInput, OPXTreeSession::MaxMessageSize)
 {
 }
 
 void OPXExplorerStdioServer::Run()
 {
-  bool isRead = true;
-  while (isRead && _reader.Next())
-  {
-    const std::string answer = AnswerLine();
-    isRead = answer.empty() || ZELSysWriteStandardOutput(answer + "\n");
-  }
+  while (_isRead && _reader.Next())
+    ServeLine();
 }
 
-std::string OPXExplorerStdioServer::AnswerLine() const
+void OPXExplorerStdioServer::ServeLine()
 {
   if (_reader.IsTooLong())
-    return OPXTreeSession::AnswerOversized();
-  return _session.Answer(_reader.GetLine());
+    Write(OPXTreeSession::AnswerOversized());
+  else
+    _session.Receive(_reader.GetLine());
+}
+
+void OPXExplorerStdioServer::Write(const std::string& i_message)
+{
+  _isRead = _isRead && ZELSysWriteStandardOutput(i_message + "\n");
 }

@@ -1,26 +1,31 @@
 // OPXExplorerStdioServer: a tree session over standard input and output, one message a line.
-// return OPXExplorerStdioServer(session).Run();
+// OPXExplorerStdioServer(source, source).Run();
 #ifndef OPXExplorerStdioServer_H
 #define OPXExplorerStdioServer_H
 
 #include "OPXExplorerLineReader.h"
+#include "OPXTreeSession.h"
 
-class OPXTreeSession;
+#include <string>
 
 class OPXExplorerStdioServer
 {
 public:
-  // The session is borrowed for the life of the server.
-  explicit OPXExplorerStdioServer(const OPXTreeSession& i_session);
+  // Both are borrowed for the life of the server.
+  OPXExplorerStdioServer(ZELSYPAbstractDataSource& i_source, OPXTreeRowsSource& i_rows);
+  OPXExplorerStdioServer(const OPXExplorerStdioServer&) = delete;
+  OPXExplorerStdioServer& operator=(const OPXExplorerStdioServer&) = delete;
 
   // Serves until the input ends or nobody reads the answers any more.
   void Run();
 
 private:
-  std::string AnswerLine() const;
+  void ServeLine();
+  void Write(const std::string& i_message);
 
-  const OPXTreeSession& _session;
+  OPXTreeSession _session;
   OPXExplorerLineReader _reader;
+  bool _isRead = true;
 };
 
 #endif

@@ -29,10 +29,9 @@ const char* OPXTreeError::what() const noexcept
   return "Internal error";
 }
 
-std::string OPXTreeError::ToAnswer(const std::string& i_id) const
+std::string OPXTreeError::ToJSON() const
 {
   const nlohmann::json error{{"code", static_cast<int>(_code)}, {"message", what()}, {"data", _data}};
   // A source's own words may be in any encoding.
-  const std::string text = error.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
-  return "{\"jsonrpc\":\"2.0\",\"id\":" + i_id + ",\"error\":" + text + "}";
+  return error.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }

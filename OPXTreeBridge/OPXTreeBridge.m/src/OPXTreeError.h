@@ -25,8 +25,8 @@ public:
   static OPXTreeError MessageTooLong();
 
   const char* what() const noexcept override;
-  // The whole answer. i_id: the request's id as JSON text.
-  std::string ToAnswer(const std::string& i_id) const;
+  // The value of an answer's "error".
+  std::string ToJSON() const;
 
 private:
   Code _code;

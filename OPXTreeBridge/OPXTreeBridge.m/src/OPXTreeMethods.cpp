@@ -1,11 +1,14 @@
 #include "OPXTreeMethods.h"
 
-#include "OPXTreeDataSource.h"
 #include "OPXTreeError.h"
 #include "OPXTreeParametersCheck.h"
+#include "OPXTreeReply.h"
+#include "OPXTreeRowsSource.h"
+#include "ZELSYPAbstractDataSource.h"
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace Records = ZELSYPDataSourceParameters;
 
@@ -50,60 +53,76 @@ nlohmann::json CollectNotFound(const Records::TreeNodesAnswerParameters& i_answe
   return notFound;
 }
 
-std::string CallRows(OPXTreeDataSource& io_source, nlohmann::json& io_params)
+// Hands an answer over whenever the source has it.
+auto SetResultOf(const std::shared_ptr<OPXTreeAnswer>& i_pAnswer)
+{
+  return [i_pAnswer](const auto& i_answer) { i_pAnswer->SetResult(Write(i_answer)); };
+}
+} // namespace
+
+struct OPXTreeMethods::Method
+{
+  const char* name;
+  void (OPXTreeMethods::*pCall)(nlohmann::json&, const Answer&);
+};
+
+OPXTreeMethods::OPXTreeMethods(ZELSYPAbstractDataSource& io_source, OPXTreeRowsSource& io_rows, std::shared_ptr<OPXTreeOutbox> i_pOutbox)
+    : _source(io_source), _rows(io_rows), _notifications(io_source, std::move(i_pOutbox))
+{
+}
+
+void OPXTreeMethods::Call(const std::string& i_method, nlohmann::json& io_params, const Answer& i_pAnswer)
+{
+  static constexpr Method methods[] = {{"tree/rows", &OPXTreeMethods::CallRows},
+                                       {"tree/structure", &OPXTreeMethods::CallStructure},
+                                       {"tree/selectionChange", &OPXTreeMethods::CallSelectionChange},
+                                       {"tree/collapseExpand", &OPXTreeMethods::CallCollapseExpand},
+                                       {"tree/pointerEvent", &OPXTreeMethods::CallPointerEvent},
+                                       {"tree/succeeded", &OPXTreeMethods::CallSucceeded}};
+  const auto method = std::find_if(std::begin(methods), std::end(methods), [&](const Method& i_entry) { return i_method == i_entry.name; });
+  if (method == std::end(methods))
+    throw OPXTreeError(OPXTreeError::MethodNotFound, {{"method", i_method}});
+  (this->*method->pCall)(io_params, i_pAnswer);
+}
+
+void OPXTreeMethods::CallRows(nlohmann::json& io_params, const Answer& i_pAnswer)
 {
   OPXTreeParametersCheck::CheckRows(io_params);
   const auto request = MakeRecord<Records::TreeNodesRequestParameters>(io_params);
-  const auto answer = io_source.RequestRows(request);
+  const auto answer = _rows.RequestRows(request);
   std::string result = Write(answer);
   const nlohmann::json notFound = CollectNotFound(answer, request.GetRequestCount());
   if (!notFound.empty())
     result.replace(result.size() - 1, 1, ",\"notFound\":" + notFound.dump() + "}");
-  return result;
+  i_pAnswer->SetResult(result);
 }
 
-std::string CallStructure(OPXTreeDataSource& io_source, nlohmann::json& io_params)
+void OPXTreeMethods::CallStructure(nlohmann::json& io_params, const Answer& i_pAnswer)
 {
   OPXTreeParametersCheck::CheckStructure(io_params);
-  return Write(io_source.RequestStructure(MakeRecord<Records::TreeNodesModelStructureParameters>(io_params)));
+  i_pAnswer->SetResult(Write(_rows.RequestStructure(MakeRecord<Records::TreeNodesModelStructureParameters>(io_params))));
 }
 
-std::string CallCollapseExpand(OPXTreeDataSource& io_source, nlohmann::json& io_params)
+void OPXTreeMethods::CallCollapseExpand(nlohmann::json& io_params, const Answer& i_pAnswer)
 {
   OPXTreeParametersCheck::CheckCollapseExpand(io_params);
-  return Write(io_source.RequestCollapseExpand(MakeRecord<Records::ModelCollapseExpandParameters>(io_params)));
+  _source.RequestModelCollapseExpand(MakeRecord<Records::ModelCollapseExpandParameters>(io_params), SetResultOf(i_pAnswer));
 }
 
-std::string CallSelectionChange(OPXTreeDataSource& io_source, nlohmann::json& io_params)
+void OPXTreeMethods::CallSelectionChange(nlohmann::json& io_params, const Answer& i_pAnswer)
 {
   OPXTreeParametersCheck::CheckSelectionChange(io_params);
-  return Write(io_source.RequestSelectionChange(MakeRecord<Records::SelectionChangeParameters>(io_params)));
+  _source.RequestSelectionChange(MakeRecord<Records::SelectionChangeParameters>(io_params), SetResultOf(i_pAnswer));
 }
 
-std::string CallPointerEvent(OPXTreeDataSource& io_source, nlohmann::json& io_params)
+void OPXTreeMethods::CallPointerEvent(nlohmann::json& io_params, const Answer& i_pAnswer)
 {
   OPXTreeParametersCheck::CheckPointerEvent(io_params);
-  io_source.RequestPointerEvent(MakeRecord<Records::PointerEventParameters>(io_params));
-  return "null";
+  _source.RequestPointerEvent(MakeRecord<Records::PointerEventParameters>(io_params), SetResultOf(i_pAnswer));
 }
 
-struct Method
+void OPXTreeMethods::CallSucceeded(nlohmann::json& io_params, const Answer& i_pAnswer)
 {
-  const char* name;
-  std::string (*call)(OPXTreeDataSource&, nlohmann::json&);
-};
-
-constexpr Method methods[] = {{"tree/rows", CallRows},
-                              {"tree/structure", CallStructure},
-                              {"tree/selectionChange", CallSelectionChange},
-                              {"tree/collapseExpand", CallCollapseExpand},
-                              {"tree/pointerEvent", CallPointerEvent}};
-} // namespace
-
-std::string OPXTreeMethods::Call(OPXTreeDataSource& io_source, const std::string& i_method, nlohmann::json& io_params)
-{
-  const auto method = std::find_if(std::begin(methods), std::end(methods), [&](const Method& i_entry) { return i_method == i_entry.name; });
-  if (method == std::end(methods))
-    throw OPXTreeError(OPXTreeError::MethodNotFound, {{"method", i_method}});
-  return method->call(io_source, io_params);
+  _notifications.Succeed(io_params);
+  i_pAnswer->SetResult("null");
 }

@@ -138,3 +138,9 @@ void OPXTreeParametersCheck::CheckPointerEvent(nlohmann::json& io_params)
   params.IfMember("hitCount", NeedUnsigned);
   params.IfMember("dataIndex", NeedString);
 }
+
+void OPXTreeParametersCheck::CheckSucceeded(nlohmann::json& io_params)
+{
+  const OPXTreeValue number = OPXTreeValue(io_params).Member("answerTo");
+  number.Need(number.IsCount(), "number of a notification");
+}

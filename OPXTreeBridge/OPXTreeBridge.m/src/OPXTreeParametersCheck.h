@@ -17,6 +17,7 @@ public:
   static void CheckCollapseExpand(nlohmann::json& io_params);
   static void CheckSelectionChange(nlohmann::json& io_params);
   static void CheckPointerEvent(nlohmann::json& io_params);
+  static void CheckSucceeded(nlohmann::json& io_params);
 };
 
 #endif

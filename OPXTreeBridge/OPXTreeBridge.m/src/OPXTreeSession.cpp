@@ -1,13 +1,15 @@
 #include "OPXTreeSession.h"
 
-#include "OPXTreeDataSource.h"
 #include "OPXTreeError.h"
 #include "OPXTreeMessageReader.h"
 #include "OPXTreeMethods.h"
+#include "OPXTreeOutbox.h"
+#include "OPXTreeReply.h"
 
 #include <cmath>
 #include <exception>
 #include <nlohmann/json.hpp>
+#include <utility>
 
 namespace
 {
@@ -28,13 +30,20 @@ bool IsID(const nlohmann::json& i_value)
   return i_value.is_string() || i_value.is_null() || (i_value.is_number() && IsExact(i_value));
 }
 
-void CheckRequest(const nlohmann::json& i_request)
+// What keeps a value from being a request; null when nothing does.
+const char* FindFault(const nlohmann::json& i_request)
 {
-  NeedRequest(i_request.is_object(), "a request is an object");
-  NeedRequest(!i_request.contains("id") || IsID(i_request["id"]), "\"id\" is a string, a number of at most 64 bits or null");
-  NeedRequest(i_request.contains("jsonrpc") && i_request["jsonrpc"] == "2.0", "\"jsonrpc\" is \"2.0\"");
-  NeedRequest(i_request.contains("method") && i_request["method"].is_string(), "\"method\" is a string");
-  NeedRequest(!i_request.contains("params") || i_request["params"].is_structured(), "\"params\" is an object or an array");
+  if (!i_request.is_object())
+    return "a request is an object";
+  if (i_request.contains("id") && !IsID(i_request["id"]))
+    return "\"id\" is a string, a number of at most 64 bits or null";
+  if (!i_request.contains("jsonrpc") || i_request["jsonrpc"] != "2.0")
+    return "\"jsonrpc\" is \"2.0\"";
+  if (!i_request.contains("method") || !i_request["method"].is_string())
+    return "\"method\" is a string";
+  if (i_request.contains("params") && !i_request["params"].is_structured())
+    return "\"params\" is an object or an array";
+  return nullptr;
 }
 
 // As JSON text; null when it cannot be told.
@@ -43,8 +52,14 @@ std::string GetID(const nlohmann::json& i_request)
   return i_request.contains("id") && IsID(i_request["id"]) ? i_request["id"].dump() : "null";
 }
 
-// Whatever went wrong, as an answer. To be called while an exception is handled.
-std::string AnswerCurrentException(const std::string& i_id)
+void CheckBatch(const nlohmann::json& i_batch)
+{
+  NeedRequest(!i_batch.empty(), "a batch holds at least one request");
+  NeedRequest(i_batch.size() <= OPXTreeSession::MaxRequests, "a batch holds at most 1000 requests");
+}
+
+// Whatever went wrong. To be called while an exception is handled.
+OPXTreeError GetCurrentError()
 {
   try
   {
@@ -52,74 +67,94 @@ std::string AnswerCurrentException(const std::string& i_id)
   }
   catch (const OPXTreeError& error)
   {
-    return error.ToAnswer(i_id);
+    return error;
   }
   catch (const std::exception& error)
   {
-    return OPXTreeError(OPXTreeError::InternalError, {{"reason", error.what()}}).ToAnswer(i_id);
+    return OPXTreeError(OPXTreeError::InternalError, {{"reason", error.what()}});
   }
   catch (...)
   {
-    return OPXTreeError(OPXTreeError::InternalError, {{"reason", "unknown"}}).ToAnswer(i_id);
+    return OPXTreeError(OPXTreeError::InternalError, {{"reason", "unknown"}});
   }
 }
 
-std::string AnswerResult(const std::string& i_id, const std::string& i_result)
+// The answer to a message whose id cannot be told.
+std::string AnswerError(const OPXTreeError& i_error)
 {
-  return "{\"jsonrpc\":\"2.0\",\"id\":" + i_id + ",\"result\":" + i_result + "}";
+  const auto pReply = std::make_shared<OPXTreeReply>(false);
+  pReply->Add("null", false)->SetError(i_error);
+  return pReply->Close(nullptr);
 }
 } // namespace
 
-OPXTreeSession::OPXTreeSession(OPXTreeDataSource& i_source) : _source(i_source) {}
+OPXTreeSession::OPXTreeSession(ZELSYPAbstractDataSource& i_source, OPXTreeRowsSource& i_rows, Output i_output)
+    : _pOutbox(std::make_shared<OPXTreeOutbox>(std::move(i_output))),
+      _pMethods(std::make_unique<OPXTreeMethods>(i_source, i_rows, _pOutbox))
+{
+}
+
+OPXTreeSession::~OPXTreeSession() = default;
+
+void OPXTreeSession::Receive(std::string_view i_message) const
+{
+  _pOutbox->SendInAnswer([&] { return Answer(i_message); });
+}
 
 std::string OPXTreeSession::Answer(std::string_view i_message) const
 {
   try
   {
     nlohmann::json message = OPXTreeMessageReader::Read(i_message);
-    return message.is_array() ? AnswerBatch(message) : AnswerRequest(message);
+    return AnswerAll(message);
   }
   catch (...)
   {
-    return AnswerCurrentException("null");
+    return AnswerError(GetCurrentError());
   }
 }
 
 std::string OPXTreeSession::AnswerOversized()
 {
-  return OPXTreeError::MessageTooLong().ToAnswer("null");
+  return AnswerError(OPXTreeError::MessageTooLong());
 }
 
-std::string OPXTreeSession::AnswerBatch(nlohmann::json& io_batch) const
+std::string OPXTreeSession::AnswerAll(nlohmann::json& io_message) const
 {
-  NeedRequest(!io_batch.empty(), "a batch holds at least one request");
-  NeedRequest(io_batch.size() <= MaxRequests, "a batch holds at most 1000 requests");
-  std::string answers;
-  for (nlohmann::json& request : io_batch)
+  const auto pReply = std::make_shared<OPXTreeReply>(io_message.is_array());
+  if (!io_message.is_array())
+    AnswerRequest(io_message, *pReply);
+  else
   {
-    const std::string answer = AnswerRequest(request, answers.size() < MaxBatchAnswerSize);
-    if (!answer.empty())
-      answers += (answers.empty() ? "[" : ",") + answer;
+    CheckBatch(io_message);
+    for (nlohmann::json& request : io_message)
+      AnswerRequest(request, *pReply);
   }
-  return answers.empty() ? answers : answers + "]";
+  if (!_pOutbox->HasOutput())
+    return pReply->Close(nullptr);
+  // Who answers late may do so when the session has gone.
+  return pReply->Close(
+      [pWeakOutbox = std::weak_ptr(_pOutbox)](std::string i_reply)
+      {
+        if (const auto pOutbox = pWeakOutbox.lock())
+          pOutbox->Send(std::move(i_reply));
+      });
 }
 
-std::string OPXTreeSession::AnswerRequest(nlohmann::json& io_request, bool i_hasRoom) const
+void OPXTreeSession::AnswerRequest(nlohmann::json& io_request, OPXTreeReply& io_reply) const
 {
-  const std::string id = GetID(io_request);
-  bool isNotification = false;
-  std::string answer;
+  const char* const pFault = FindFault(io_request);
+  const bool isNotification = !pFault && !io_request.contains("id");
+  const auto pAnswer = io_reply.Add(GetID(io_request), isNotification);
   try
   {
-    CheckRequest(io_request);
-    isNotification = !io_request.contains("id");
-    NeedRequest(i_hasRoom, "the batch's answers so far take 64 MiB");
+    NeedRequest(!pFault, pFault);
+    NeedRequest(io_reply.GetSize() < MaxBatchAnswerSize, "the batch's answers so far take 64 MiB");
     // Parameters that are left out are null, which no method takes.
-    answer = AnswerResult(id, OPXTreeMethods::Call(_source, io_request["method"].get<std::string>(), io_request["params"]));
+    _pMethods->Call(io_request["method"].get<std::string>(), io_request["params"], pAnswer);
   }
   catch (...)
   {
-    answer = AnswerCurrentException(id);
+    pAnswer->SetError(GetCurrentError());
   }
-  return isNotification ? std::string() : answer;
 }

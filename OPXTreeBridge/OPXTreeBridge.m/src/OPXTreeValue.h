@@ -17,6 +17,8 @@ public:
 
   bool IsArray() const { return _value.is_array(); }
   bool IsString() const { return _value.is_string(); }
+  // A whole number, not negative.
+  bool IsCount() const { return _value.is_number_unsigned(); }
   bool Is(const char* i_text) const { return _value == i_text; }
   bool Has(const char* i_key) const { return _value.contains(i_key); }
 

@@ -1,0 +1,33 @@
+// OPXTreeOutbox: the messages for the view, sent in their order, and those of one answer behind the answer.
+// OPXTreeOutbox outbox(output); outbox.Send(notification); outbox.SendInAnswer([&] { return Answer(message); });
+#ifndef OPXTreeOutbox_H
+#define OPXTreeOutbox_H
+
+#include "OPXTreeSession.h"
+
+#include <deque>
+#include <functional>
+#include <string>
+
+class OPXTreeOutbox
+{
+public:
+  // An empty output takes nothing.
+  explicit OPXTreeOutbox(OPXTreeSession::Output i_output);
+
+  bool HasOutput() const { return static_cast<bool>(_output); }
+  // Sends a message now, or after the answer that is being made or the message that is being sent. An empty one is none.
+  void Send(std::string i_message);
+  // Sends what i_makeAnswer returns, and then what was to be sent while it ran. It throws nothing.
+  void SendInAnswer(const std::function<std::string()>& i_makeAnswer);
+
+private:
+  void SendAll();
+
+  const OPXTreeSession::Output _output;
+  std::deque<std::string> _messages;
+  int _answersInTheMaking = 0;
+  bool _isSending = false;
+};
+
+#endif

@@ -1,0 +1,3 @@
+#include "OPXTreeRowsSource.h"
+
+OPXTreeRowsSource::~OPXTreeRowsSource() = default;
