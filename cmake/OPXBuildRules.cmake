@@ -64,9 +64,10 @@ function(opx_shared_library name headers)
   if(WIN32)
     set_target_properties(${name} PROPERTIES PREFIX "")
   else()
-    # Calls within the library are direct, as they are on Windows; nobody stands in for its functions.
+    # Calls within the library are direct, as they are on Windows, but for the few functions that may be replaced.
     target_compile_options(${name} PRIVATE -fno-semantic-interposition)
-    target_link_options(${name} PRIVATE -Wl,-Bsymbolic-functions)
+    target_link_options(${name} PRIVATE -Wl,-Bsymbolic-functions
+      "LINKER:--dynamic-list=${PROJECT_SOURCE_DIR}/cmake/OPXReplaceable.txt")
   endif()
   target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:opx_warnings>)
 endfunction()
