@@ -72,7 +72,7 @@ template <class K, class V, auto Hasher, auto Comparator>
 class ZELSYPHashMap<K, V, Hasher, Comparator>::Iterator : public ZELSYPHashMapBaseIterator
 {
 public:
-  explicit Iterator(const ZELSYPHashMap& i_map) : ZELSYPHashMapBaseIterator(&i_map._table) {}
+  explicit Iterator(const ZELSYPHashMap& i_map) : ZELSYPHashMapBaseIterator(i_map._table) {}
 
   void Next()
   {

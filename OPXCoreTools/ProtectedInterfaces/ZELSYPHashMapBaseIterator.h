@@ -37,6 +37,12 @@ public:
   }
 
 protected:
+  // The same for a table that is there. Inline, so that a loop keeps the iterator in registers.
+  explicit ZELSYPHashMapBaseIterator(const ZELSysSimpleHashTable& i_table) noexcept
+      : _pHashTable(&i_table), _size(i_table.Size()), _currentItem(0)
+  {
+  }
+
   const ZELSysSimpleHashTable* _pHashTable;
   std::int32_t _size;
   std::int32_t _currentItem;
