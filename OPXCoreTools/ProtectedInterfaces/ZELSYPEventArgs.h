@@ -6,7 +6,7 @@
 #define ZELSYPEventArgs_H
 
 #include "OPXCoreToolsExport.h"
-#include "ZELBaseUnknown.h"
+#include "ZELBaseUnknown_var.h"
 #include "ZELSYPEvent.h"
 
 #include <cstdint>
@@ -45,11 +45,16 @@ public:
   int IsConsumed() const noexcept { return _consumed; }
 
 private:
+  friend class ZELSYPEventPathBuilder;
+  friend class ZELSYPSupportsEventPathBuilder;
+
   static void ReportMissingEvent();
 
   ZELSYPEvent* const _pEvent;
   ZELBaseUnknown* _pOrigin = nullptr;
   std::int32_t _consumed = 0;
+  // While a route is built: the node that is looked at as the route holds it, so that its stop can take it over.
+  ZELBaseUnknown_var* _pRouteNode = nullptr;
 };
 
 #endif

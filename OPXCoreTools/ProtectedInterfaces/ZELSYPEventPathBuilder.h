@@ -56,7 +56,7 @@ private:
   bool AddStops(ZELSYPEventPath& io_path, ZELSYPEventArgs* i_pArgs);
   int FillListOfNodes(Nodes& io_list, ZELSYPEventArgs* i_pArgs);
   int AddChain(Nodes& io_list, ZELSYPEventArgs& i_args, ZELBaseUnknown* i_pOrigin);
-  bool BuildElements(ZELSYPEventPath& io_path, ZELSYPEventArgs& i_args, const Nodes& i_nodes);
+  bool BuildElements(ZELSYPEventPath& io_path, ZELSYPEventArgs& io_args, Nodes& io_nodes);
 };
 
 #endif

@@ -30,7 +30,7 @@ public:
   }
   ZELSYPEventPathElt(const ZELSYPEventPathElt&) = delete;
   ZELSYPEventPathElt& operator=(const ZELSYPEventPathElt&) = delete;
-  virtual ~ZELSYPEventPathElt();
+  virtual ~ZELSYPEventPathElt() = default;
 
   // Puts a snapshot of the list at the end.
   void AddList(const ZELSYPEventHandlerInfoList& i_list) { _lists.Append(i_list); }

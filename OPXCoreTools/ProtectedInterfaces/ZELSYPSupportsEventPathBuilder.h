@@ -8,6 +8,8 @@
 #include "OPXCoreToolsExport.h"
 #include "ZELSYPEventPathBuilder.h"
 
+#include <memory>
+
 class ZELSYPClassEventHandlersSupport;
 class ZELSYPEvent;
 class ZELSYPEventHandlersSupport;
@@ -30,11 +32,17 @@ protected:
   ZELSYPEventPathElt* BuildElement(ZELSYPEventArgs* i_pArgs, ZELBaseUnknown* i_pNode) override;
 
 private:
-  static ZELSYPEventPathElt* BuildStop(ZELSYPEvent& i_event, ZELBaseUnknown& i_node, ZELSYPEventHandlersSupport& io_support,
-                                       ZELSYPClassEventHandlersSupport& io_classSupport);
+  typedef std::unique_ptr<ZELSYPEventPathElt> Element;
+
   // The stores of the node, borrowed.
   virtual ZELSYPEventHandlersSupport* GetSupportForNode(ZELBaseUnknown* i_pNode) = 0;
   virtual ZELSYPClassEventHandlersSupport* GetClassSupportForNode(ZELBaseUnknown* i_pNode) = 0;
+
+  static ZELBaseUnknown_var TakeNode(const ZELSYPEventArgs& i_args, ZELBaseUnknown& i_node);
+  static void AddList(Element& io_pElement, const ZELSYPEventArgs& i_args, ZELBaseUnknown& i_node,
+                      const ZELSYPEventHandlerInfoList* i_pList);
+  static void AddClassLists(Element& io_pElement, ZELSYPEventArgs& io_args, ZELBaseUnknown& i_node,
+                            ZELSYPClassEventHandlersSupport& io_classSupport);
 };
 
 #endif

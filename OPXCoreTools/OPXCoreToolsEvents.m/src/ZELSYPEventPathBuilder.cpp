@@ -16,7 +16,8 @@ bool HasOrigin(ZELBaseUnknown* i_pOrigin, ZELSYPEventArgs* i_pArgs)
 {
   if (!i_pArgs->GetOrigin())
     i_pArgs->SetOrigin(i_pOrigin);
-  return ZELSYP_CHECK_TRUE_DETAILS(i_pOrigin->IsEqual(i_pArgs->GetOrigin()), "The origin of the event is incorrect");
+  return i_pArgs->GetOrigin() == i_pOrigin ||
+         ZELSYP_CHECK_TRUE_DETAILS(i_pOrigin->IsEqual(i_pArgs->GetOrigin()), "The origin of the event is incorrect");
 }
 
 void ReportOtherArguments(const ZELMetaClass& i_eventArguments, const ZELMetaClass& i_arguments)
@@ -40,6 +41,21 @@ bool HasExpectedClass(const ZELSYPEventArgs& i_args)
   ReportOtherArguments(*pEventArgumentType, *pArgsType);
   return false;
 }
+
+// Shows the nodes of a route in arguments; afterwards these show what they did before, since whoever is asked for an
+// element may build another route with the same arguments.
+class ShownNode
+{
+public:
+  explicit ShownNode(ZELBaseUnknown_var*& io_pShown) : _pShown(io_pShown), _pBefore(io_pShown) {}
+  ~ShownNode() { _pShown = _pBefore; }
+  ShownNode(const ShownNode&) = delete;
+  ShownNode& operator=(const ShownNode&) = delete;
+
+private:
+  ZELBaseUnknown_var*& _pShown;
+  ZELBaseUnknown_var* const _pBefore;
+};
 
 bool IsKnown(ZELSYPEvent::Propagation i_propagation)
 {
@@ -108,14 +124,14 @@ int ZELSYPEventPathBuilder::FillListOfNodes(Nodes& io_list, ZELSYPEventArgs* i_p
 {
   if (!ZELSYP_CHECK_TRUE(io_list.GetLength() == 0) || !ZELSYP_CHECK_POINTER(i_pArgs))
     return 0;
-  ZELBaseUnknown_var spOrigin = i_pArgs->GetOrigin();
+  ZELBaseUnknown* const spOrigin = i_pArgs->GetOrigin();
   const ZELSYPEvent* const pEvent = i_pArgs->GetEvent();
   if (!ZELSYP_CHECK_HANDLER(spOrigin) || !ZELSYP_CHECK_POINTER(pEvent))
     return 0;
   const ZELSYPEvent::Propagation propagation = pEvent->GetPropagation();
   if (propagation == ZELSYPEvent::NoPropagation)
-    return io_list.Append(std::move(spOrigin));
-  if (!IsKnown(propagation) || !AddChain(io_list, *i_pArgs, spOrigin.Get()))
+    return io_list.Append(ZELBaseUnknown_var(spOrigin));
+  if (!IsKnown(propagation) || !AddChain(io_list, *i_pArgs, spOrigin))
     return 0;
   if (propagation == ZELSYPEvent::RootToOrigin)
     std::reverse(io_list.begin(), io_list.end());
@@ -130,15 +146,17 @@ int ZELSYPEventPathBuilder::AddChain(Nodes& io_list, ZELSYPEventArgs& i_args, ZE
   return 1;
 }
 
-bool ZELSYPEventPathBuilder::BuildElements(ZELSYPEventPath& io_path, ZELSYPEventArgs& i_args, const Nodes& i_nodes)
+bool ZELSYPEventPathBuilder::BuildElements(ZELSYPEventPath& io_path, ZELSYPEventArgs& io_args, Nodes& io_nodes)
 {
-  io_path.ReserveElements(i_nodes.GetLength());
+  const ShownNode shown(io_args._pRouteNode);
+  io_path.ReserveElements(io_nodes.GetLength());
   const ZELSYPEventPathElt* const pNoElement = NO_ELEMENT();
-  for (const ZELBaseUnknown_var& spNode : i_nodes)
+  for (ZELBaseUnknown_var& spNode : io_nodes)
   {
     if (!ZELSYP_CHECK_HANDLER(spNode))
       return false;
-    ZELSYPEventPathElt* const pElt = BuildElement(&i_args, spNode.Get());
+    io_args._pRouteNode = &spNode;
+    ZELSYPEventPathElt* const pElt = BuildElement(&io_args, spNode.Get());
     if (!ZELSYP_CHECK_POINTER_DETAILS(pElt, "Implementation of BuildElement returned NULL"))
       return false;
     if (pElt != pNoElement)

@@ -16,8 +16,6 @@ bool MayRun(const ZELSYPEventHandlerInfo& i_info, const ZELSYPEventArgs& i_args)
 }
 } // namespace
 
-ZELSYPEventPathElt::~ZELSYPEventPathElt() = default;
-
 void* ZELSYPEventPathElt::operator new(std::size_t i_bytes)
 {
   if (void* const pMemory = ZELSYPRecycledBlocks::Take(i_bytes))

@@ -6,21 +6,7 @@
 #include "ZELSYPEventArgs.h"
 #include "ZELSYPEventHandlersSupport.h"
 
-#include <memory>
-
-namespace
-{
-typedef std::unique_ptr<ZELSYPEventPathElt> Element;
-
-void AddList(Element& io_pElement, ZELBaseUnknown* i_pNode, const ZELSYPEventHandlerInfoList* i_pList)
-{
-  if (!i_pList || i_pList->GetSize() == 0)
-    return;
-  if (!io_pElement)
-    io_pElement = std::make_unique<ZELSYPEventPathElt>(i_pNode);
-  io_pElement->AddList(*i_pList);
-}
-} // namespace
+#include <utility>
 
 ZELSYPSupportsEventPathBuilder::~ZELSYPSupportsEventPathBuilder() = default;
 
@@ -36,6 +22,26 @@ ZELSYPClassEventHandlersSupport* ZELSYPSupportsEventPathBuilder::NO_CLASS_SUPPOR
   return s_pNoClassSupport;
 }
 
+// What the route holds becomes the stop's. Whoever asks outside a route gets a reference more.
+inline ZELBaseUnknown_var ZELSYPSupportsEventPathBuilder::TakeNode(const ZELSYPEventArgs& i_args, ZELBaseUnknown& i_node)
+{
+  ZELBaseUnknown_var* const pRouteNode = i_args._pRouteNode;
+  return pRouteNode && pRouteNode->Get() == &i_node ? std::move(*pRouteNode) : ZELBaseUnknown_var(&i_node);
+}
+
+// Inlined where it stands: it is most of what there is to do at a node that listens.
+[[gnu::always_inline]] inline void ZELSYPSupportsEventPathBuilder::AddList(Element& io_pElement, const ZELSYPEventArgs& i_args,
+                                                                           ZELBaseUnknown& i_node,
+                                                                           const ZELSYPEventHandlerInfoList* i_pList)
+{
+  if (!i_pList || i_pList->GetSize() == 0)
+    return;
+  if (!io_pElement)
+    io_pElement = std::make_unique<ZELSYPEventPathElt>(TakeNode(i_args, i_node));
+  io_pElement->AddList(*i_pList);
+}
+
+// The sentinels are stores like any other, without handlers.
 ZELSYPEventPathElt* ZELSYPSupportsEventPathBuilder::BuildElement(ZELSYPEventArgs* i_pArgs, ZELBaseUnknown* i_pNode)
 {
   if (!ZELSYP_CHECK_POINTER(i_pArgs) || !ZELSYP_CHECK_POINTER(i_pNode))
@@ -47,22 +53,20 @@ ZELSYPEventPathElt* ZELSYPSupportsEventPathBuilder::BuildElement(ZELSYPEventArgs
   ZELSYPClassEventHandlersSupport* const pClassSupport = GetClassSupportForNode(i_pNode);
   if (!ZELSYP_CHECK_POINTER(pSupport) || !ZELSYP_CHECK_POINTER(pClassSupport))
     return nullptr;
-  ZELSYPEventPathElt* const pElement = pEvent->_storeCount != 0 ? BuildStop(*pEvent, *i_pNode, *pSupport, *pClassSupport) : nullptr;
-  return pElement ? pElement : NO_ELEMENT();
+  Element pElement;
+  if (pEvent->_storeCount != 0)
+  {
+    if (pClassSupport->_supports.GetSize() != 0)
+      AddClassLists(pElement, *i_pArgs, *i_pNode, *pClassSupport);
+    AddList(pElement, *i_pArgs, *i_pNode, pSupport->FindPrunedList(pEvent));
+  }
+  return pElement ? pElement.release() : NO_ELEMENT();
 }
 
-// Null when there is nothing to run. The sentinels are stores like any other, without handlers.
-ZELSYPEventPathElt* ZELSYPSupportsEventPathBuilder::BuildStop(ZELSYPEvent& i_event, ZELBaseUnknown& i_node,
-                                                              ZELSYPEventHandlersSupport& io_support,
-                                                              ZELSYPClassEventHandlersSupport& io_classSupport)
+void ZELSYPSupportsEventPathBuilder::AddClassLists(Element& io_pElement, ZELSYPEventArgs& io_args, ZELBaseUnknown& i_node,
+                                                   ZELSYPClassEventHandlersSupport& io_classSupport)
 {
-  Element pElement;
-  if (io_classSupport._supports.GetSize() != 0)
-  {
-    ZELMetaClass* const pClass = i_node.GetMetaObject();
-    for (int index = 0; ZELSYPEventHandlersSupport* const pOfClass = io_classSupport.GetInChain(pClass, index); ++index)
-      AddList(pElement, &i_node, pOfClass->FindPrunedList(&i_event));
-  }
-  AddList(pElement, &i_node, io_support.FindPrunedList(&i_event));
-  return pElement.release();
+  ZELMetaClass* const pClass = i_node.GetMetaObject();
+  for (int index = 0; ZELSYPEventHandlersSupport* const pOfClass = io_classSupport.GetInChain(pClass, index); ++index)
+    AddList(io_pElement, io_args, i_node, pOfClass->FindPrunedList(io_args.GetEvent()));
 }
