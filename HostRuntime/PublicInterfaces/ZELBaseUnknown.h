@@ -98,14 +98,16 @@ constexpr bool ZELCheckClass_()
   return true;
 }
 
+// The arguments below are names, which stand in no parentheses. NOLINTBEGIN(bugprone-macro-parentheses)
+
 // The record is a constant that needs no initialiser, so that it is there before main() begins and after it has ended.
-#define ZELImplementRecord_(Record, Class, Module, Id, BaseRecord, Create)                                                                 \
+#define ZELImplementRecord_(Name, Class, Module, Id, BaseRecord, Create)                                                                   \
   namespace                                                                                                                                \
   {                                                                                                                                        \
-  ZELMetaClass Record(                                                                                                                     \
+  ZELMetaClass ZELRecord##Name(                                                                                                            \
       #Class, #Module, Id, BaseRecord, [](ZELBaseUnknown* i_pObject) -> void* { return static_cast<Class*>(i_pObject); },                  \
       []() -> ZELBaseUnknown* { return Class::CreateItself(); });                                                                          \
-  __attribute__((init_priority(101))) ZELMetaClassRegistrar Record##Registrar(Record);                                                     \
+  __attribute__((init_priority(101))) ZELMetaClassRegistrar ZELRegistrar##Name(ZELRecord##Name);                                           \
   }                                                                                                                                        \
   const char* Class::ClassName()                                                                                                           \
   {                                                                                                                                        \
@@ -113,15 +115,15 @@ constexpr bool ZELCheckClass_()
   }                                                                                                                                        \
   const ZELClassId& Class::ClassId()                                                                                                       \
   {                                                                                                                                        \
-    return Record.GetClassId();                                                                                                            \
+    return ZELRecord##Name.GetClassId();                                                                                                   \
   }                                                                                                                                        \
   ZELMetaClass* Class::MetaObject()                                                                                                        \
   {                                                                                                                                        \
-    return &Record;                                                                                                                        \
+    return &ZELRecord##Name;                                                                                                               \
   }                                                                                                                                        \
   ZELMetaClass* Class::GetMetaObject() const                                                                                               \
   {                                                                                                                                        \
-    return &Record;                                                                                                                        \
+    return &ZELRecord##Name;                                                                                                               \
   }                                                                                                                                        \
   ZELBaseUnknown* Class::CreateItself()                                                                                                    \
   {                                                                                                                                        \
@@ -129,20 +131,19 @@ constexpr bool ZELCheckClass_()
   }
 #define ZELImplementDerived_(Line, Class, Base, Module, Id, Create)                                                                        \
   static_assert(ZELCheckClass_<Class, Base>());                                                                                            \
-  ZELImplementNamed_(                                                                                                                      \
+  ZELImplementRecord_(                                                                                                                     \
       Line, Class, Module, Id, []() -> ZELMetaClass* { return Base::MetaObject(); }, Create)
-#define ZELImplementNamed_(Line, Class, Module, Id, BaseRecord, Create)                                                                    \
-  ZELImplementRecord_(ZELRecordOfLine##Line, Class, Module, Id, BaseRecord, Create)
 
 // In one source of the class's library, Module being its name without quotes: the class is never made by its name,
-#define ZELImplementClass(Class, Base, Module) ZELImplementAtLine_(Class, Base, Module, ZELClassId::FromName(#Class), nullptr)
+#define ZELImplementClass(Class, Base, Module) ZELImplementDerived_(__LINE__, Class, Base, Module, ZELClassId::FromName(#Class), nullptr)
 // or it is, with its default constructor,
-#define ZELImplementCreatableClass(Class, Base, Module) ZELImplementAtLine_(Class, Base, Module, ZELClassId::FromName(#Class), new Class)
+#define ZELImplementCreatableClass(Class, Base, Module)                                                                                    \
+  ZELImplementDerived_(__LINE__, Class, Base, Module, ZELClassId::FromName(#Class), new Class)
 // or it is an interface, with the id that names it (a ZELIID that is no null id).
 #define ZELImplementInterface(Class, Base, Module, Id)                                                                                     \
   static_assert(!(Id).IsNull(), "the id of the interface is no id");                                                                       \
-  ZELImplementAtLine_(Class, Base, Module, Id, nullptr)
-#define ZELImplementAtLine_(Class, Base, Module, Id, Create) ZELImplementAtLine2_(__LINE__, Class, Base, Module, Id, Create)
-#define ZELImplementAtLine2_(Line, Class, Base, Module, Id, Create) ZELImplementDerived_(Line, Class, Base, Module, Id, Create)
+  ZELImplementDerived_(__LINE__, Class, Base, Module, Id, nullptr)
+
+// NOLINTEND(bugprone-macro-parentheses)
 
 #endif

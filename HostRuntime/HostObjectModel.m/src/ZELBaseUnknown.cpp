@@ -2,7 +2,7 @@
 
 #include "ZELExtension.h"
 
-ZELImplementRecord_(ZELRecordOfRoot, ZELBaseUnknown, OPXHostRuntime, ZELClassId::FromName("ZELBaseUnknown"), nullptr, nullptr)
+ZELImplementRecord_(OfRoot, ZELBaseUnknown, OPXHostRuntime, ZELClassId::FromName("ZELBaseUnknown"), nullptr, nullptr)
 
     namespace
 {

@@ -2,6 +2,7 @@
 
 #include "LoadedLibrary.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <map>
@@ -68,7 +69,7 @@ void ZELMetaClass::Link() const
   const auto count = static_cast<std::size_t>(depth);
   const ZELMetaClass** const pAncestors = new const ZELMetaClass*[count + 1];
   if (pBase)
-    std::memcpy(pAncestors, pBase->_pAncestors, count * sizeof(*pAncestors));
+    std::copy_n(pBase->_pAncestors, count, pAncestors);
   pAncestors[count] = this;
   _pBase = pBase;
   _pAncestors = pAncestors;
