@@ -382,6 +382,22 @@ TEST_F(ZELSYPEventHandlerInfoListTest, AutoRemoveCanRemoveAll)
   EXPECT_EQ(0, list.GetSize());
 }
 
+TEST_F(ZELSYPEventHandlerInfoListTest, AutoRemoveAsksFromTheLastToTheFirst)
+{
+  ZELSYPEventHandlerInfoList list;
+  std::vector<int> asked;
+  for (int place = 0; place < 3; ++place)
+  {
+    const auto handler = ZELHandle<MeddlingHandler>::Adopt(new MeddlingHandler);
+    handler->_whenAsked = [&asked, place] { asked.push_back(place); };
+    handler->_mustBeRemoved = place % 2;
+    list.AddHandler(handler.Get(), 0);
+  }
+  list.AutoRemove();
+  EXPECT_THAT(asked, ElementsAre(2, 1, 0));
+  EXPECT_EQ(2, list.GetSize());
+}
+
 TEST_F(ZELSYPEventHandlerInfoListTest, AutoRemoveOfAnEmptyListIsSilent)
 {
   OpenList list;
