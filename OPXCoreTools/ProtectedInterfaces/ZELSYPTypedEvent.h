@@ -15,6 +15,8 @@ template <class Args>
 class ZELSYPTypedEvent
 {
   static_assert(std::is_base_of_v<ZELSYPEventArgs, Args>, "an event's arguments are a ZELSYPEventArgs or derived from it");
+  template <class Callable>
+  static constexpr bool IS_HANDLER = std::is_convertible_v<Callable&&, ZELSYPEventHandler*>;
 
 public:
   // Declares the event; reports and refuses what a factory's NewEvent does. A null factory: "i_pFactory".
@@ -35,8 +37,7 @@ public:
   template <class Store, class Callable>
   ZELSYPSubscription Subscribe(Store& io_store, Callable&& i_callable, int i_handleConsumedEvents = 0) const
   {
-    static_assert(!std::is_convertible_v<Callable&&, ZELSYPEventHandler*>,
-                  "what a ready handler takes is known at run time: ZELSYPSubscribe");
+    static_assert(!IS_HANDLER<Callable>, "what a ready handler takes is known at run time: ZELSYPSubscribe");
     return ZELSYPSubscribe<Args>(io_store, Get(), std::forward<Callable>(i_callable), i_handleConsumedEvents);
   }
   // or a method that does. The object is not owned: it ends the subscription before it goes.
@@ -46,6 +47,13 @@ public:
   {
     static_assert(std::is_base_of_v<typename ZELSYPMethodArguments<decltype(i_method)>::Type, Args>, "the method takes other arguments");
     return ZELSYPSubscribe(io_store, Get(), ZELSYPMakeMemberHandler(i_pObject, i_method), i_handleConsumedEvents);
+  }
+  // As ZELSYPSubscribeClass, for all listeners of a class.
+  template <class Listener, class Callable>
+  ZELSYPSubscription SubscribeClass(Callable&& i_callable, int i_handleConsumedEvents = 0) const
+  {
+    static_assert(!IS_HANDLER<Callable>, "what a ready handler takes is known at run time: ZELSYPSubscribeClass");
+    return ZELSYPSubscribeClass<Listener, Args>(Get(), std::forward<Callable>(i_callable), i_handleConsumedEvents);
   }
 
   // Arguments of this event, made with what their constructor takes after the event.

@@ -46,6 +46,15 @@ TEST_F(ZELSYPTypedEventTest, RunsMethods)
   EXPECT_THAT(runs.Take(), ElementsAre("8"));
 }
 
+TEST_F(ZELSYPTypedEventTest, RunsForAllListenersOfAClass)
+{
+  const ZELSYPSubscription own = scored.Subscribe(listener, runs.Adding("own"));
+  const ZELSYPSubscription ofClass =
+      scored.SubscribeClass<Listener>([&](NumberArgs* i_pArgs) { runs.Add(std::to_string(i_pArgs->GetNumber())); });
+  scored.Raise(listener, 5);
+  EXPECT_THAT(runs.Take(), ElementsAre("5", "own"));
+}
+
 TEST_F(ZELSYPTypedEventTest, RunsWhatTakesABaseOfItsArguments)
 {
   const ZELSYPSubscription subscription = scored.Subscribe(listener, runs.Adding("base"));
