@@ -41,11 +41,10 @@ public:
     return ZELSYPSubscribe<Args>(io_store, Get(), std::forward<Callable>(i_callable), i_handleConsumedEvents);
   }
   // or a method that does. The object is not owned: it ends the subscription before it goes.
-  template <class Store, class Object, class Class, class Result, class... Parameters>
-  ZELSYPSubscription Subscribe(Store& io_store, Object* i_pObject, Result (Class::*i_method)(Parameters...),
-                               int i_handleConsumedEvents = 0) const
+  template <class Store, class Object, class Method, class = std::enable_if_t<std::is_member_function_pointer_v<Method>>>
+  ZELSYPSubscription Subscribe(Store& io_store, Object* i_pObject, Method i_method, int i_handleConsumedEvents = 0) const
   {
-    static_assert(std::is_base_of_v<typename ZELSYPMethodArguments<decltype(i_method)>::Type, Args>, "the method takes other arguments");
+    static_assert(std::is_base_of_v<typename ZELSYPMethodArguments<Method>::Type, Args>, "the method takes other arguments");
     return ZELSYPSubscribe(io_store, Get(), ZELSYPMakeMemberHandler(i_pObject, i_method), i_handleConsumedEvents);
   }
   // As ZELSYPSubscribeClass, for all listeners of a class.

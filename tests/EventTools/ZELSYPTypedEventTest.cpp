@@ -16,6 +16,9 @@ class ZELSYPTypedEventTest : public testing::Test
 protected:
   void OnNumber(NumberArgs* i_pArgs) { runs.Add(std::to_string(i_pArgs->GetNumber())); }
 
+  void OnNumberAt(ZELBaseUnknown* i_pNode, NumberArgs*) const { nodes.push_back(i_pNode); }
+
+  mutable std::vector<const ZELBaseUnknown*> nodes;
   ZELSYPEventFactory factory;
   const ZELSYPTypedEvent<NumberArgs> scored{&factory, "Scored", ZELSYPEvent::NoPropagation, Listener::MetaObject()};
   Runs runs;
@@ -44,6 +47,14 @@ TEST_F(ZELSYPTypedEventTest, RunsMethods)
   const ZELSYPSubscription subscription = scored.Subscribe(listener, this, &ZELSYPTypedEventTest_RunsMethods_Test::OnNumber);
   scored.Raise(listener, 8);
   EXPECT_THAT(runs.Take(), ElementsAre("8"));
+}
+
+TEST_F(ZELSYPTypedEventTest, RunsConstMethodsThatTakeTheNode)
+{
+  const ZELSYPSubscription subscription =
+      scored.Subscribe(listener, this, &ZELSYPTypedEventTest_RunsConstMethodsThatTakeTheNode_Test::OnNumberAt);
+  scored.Raise(listener, 8);
+  EXPECT_THAT(nodes, ElementsAre(&listener));
 }
 
 TEST_F(ZELSYPTypedEventTest, RunsForAllListenersOfAClass)
