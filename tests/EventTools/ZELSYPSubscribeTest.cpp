@@ -337,7 +337,7 @@ class ZELSYPSubscribeToAnyListener : public testing::Test
 {
 };
 using AllListeners = testing::Types<Listener, Command, Caller>;
-TYPED_TEST_SUITE(ZELSYPSubscribeToAnyListener, AllListeners);
+TYPED_TEST_SUITE(ZELSYPSubscribeToAnyListener, AllListeners, );
 
 TYPED_TEST(ZELSYPSubscribeToAnyListener, RunsClassHandlersAndItsOwnUntilTheyEnd)
 {
