@@ -51,7 +51,7 @@ public:
 private:
   void CheckNode() const { ZELSYP_CHECK_REPORT(_spNode, Check_Handler_Failed__, "i_spNode", __LINE__, nullptr); }
   bool RunList(int i_list, ZELSYPEventArgs& io_args) const;
-  void RunObserved(int i_list, int i_index, ZELSYPEventHandlerInfo& i_info, ZELSYPEventArgs& io_args) const;
+  [[gnu::cold]] void RunObserved(int i_list, int i_index, ZELSYPEventHandlerInfo& i_info, ZELSYPEventArgs& io_args) const;
 
   ZELBaseUnknown_var _spNode;
   ZELSYPArray<ZELSYPEventHandlerInfoList, ZELSYPRecycledBlocks> _lists;

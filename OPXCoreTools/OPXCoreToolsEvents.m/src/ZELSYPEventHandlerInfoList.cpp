@@ -46,7 +46,7 @@ void ZELSYPEventHandlerInfoList::AutoRemove()
     ZELSYPEventHandler* const pHandler = pInfo->GetHandler();
     if (!ZELSYP_CHECK_POINTER(pHandler))
       return;
-    if (pHandler->MustBeRemoved())
+    if (__builtin_expect(pHandler->MustBeRemoved() != 0, false))
       Remove(index);
   }
 }

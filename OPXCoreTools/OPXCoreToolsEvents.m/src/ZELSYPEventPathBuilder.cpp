@@ -85,7 +85,7 @@ ZELSYPEventPath* ZELSYPEventPathBuilder::BuildPath(ZELSYPEventArgs* i_pArgs)
   return FillPath(*pPath, i_pArgs) ? pPath.release() : nullptr;
 }
 
-bool ZELSYPEventPathBuilder::FillPath(ZELSYPEventPath& io_path, ZELSYPEventArgs* i_pArgs)
+inline bool ZELSYPEventPathBuilder::FillPath(ZELSYPEventPath& io_path, ZELSYPEventArgs* i_pArgs)
 {
   if (!ZELSYP_CHECK_POINTER(i_pArgs) ||
       !ZELSYP_CHECK_POINTER_DETAILS(i_pArgs->GetOrigin(), "Can't dispatch, Origin has not been set on the event arguments") ||
@@ -94,7 +94,7 @@ bool ZELSYPEventPathBuilder::FillPath(ZELSYPEventPath& io_path, ZELSYPEventArgs*
   return AddStops(io_path, i_pArgs);
 }
 
-bool ZELSYPEventPathBuilder::AddStops(ZELSYPEventPath& io_path, ZELSYPEventArgs* i_pArgs)
+inline bool ZELSYPEventPathBuilder::AddStops(ZELSYPEventPath& io_path, ZELSYPEventArgs* i_pArgs)
 {
   ZELSYPRecycledBlocks::Room<ZELBaseUnknown_var, 30> room;
   Nodes nodes;
@@ -120,7 +120,7 @@ ZELSYPEventPathElt* ZELSYPEventPathBuilder::NO_ELEMENT()
   return s_pNoElement;
 }
 
-int ZELSYPEventPathBuilder::FillListOfNodes(Nodes& io_list, ZELSYPEventArgs* i_pArgs)
+inline int ZELSYPEventPathBuilder::FillListOfNodes(Nodes& io_list, ZELSYPEventArgs* i_pArgs)
 {
   if (!ZELSYP_CHECK_TRUE(io_list.GetLength() == 0) || !ZELSYP_CHECK_POINTER(i_pArgs))
     return 0;
@@ -138,7 +138,7 @@ int ZELSYPEventPathBuilder::FillListOfNodes(Nodes& io_list, ZELSYPEventArgs* i_p
   return ZELSYP_CHECK_TRUE(io_list.GetLength() >= 1);
 }
 
-int ZELSYPEventPathBuilder::AddChain(Nodes& io_list, ZELSYPEventArgs& i_args, ZELBaseUnknown* i_pOrigin)
+inline int ZELSYPEventPathBuilder::AddChain(Nodes& io_list, ZELSYPEventArgs& i_args, ZELBaseUnknown* i_pOrigin)
 {
   for (ZELBaseUnknown* pNode = i_pOrigin; pNode; pNode = GetParent(&i_args, pNode))
     if (!io_list.Append(ZELBaseUnknown_var(pNode)))
@@ -146,7 +146,7 @@ int ZELSYPEventPathBuilder::AddChain(Nodes& io_list, ZELSYPEventArgs& i_args, ZE
   return 1;
 }
 
-bool ZELSYPEventPathBuilder::BuildElements(ZELSYPEventPath& io_path, ZELSYPEventArgs& io_args, Nodes& io_nodes)
+inline bool ZELSYPEventPathBuilder::BuildElements(ZELSYPEventPath& io_path, ZELSYPEventArgs& io_args, Nodes& io_nodes)
 {
   const ShownNode shown(io_args._pRouteNode);
   io_path.ReserveElements(io_nodes.GetLength());
