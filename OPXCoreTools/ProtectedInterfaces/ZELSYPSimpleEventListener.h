@@ -1,56 +1,23 @@
 // ZELSYPSimpleEventListener: the base of an object that raises routed events and has handlers for them.
 // class Door : public ZELSYPSimpleEventListener { ... }; pDoor->AddHandler(Door::Opened(), pHandler, 0); pDoor->Dispatch(&args);
 //
-// A listener is the origin and the only node of what it dispatches. Beside handlers of its own there are those of its
-// classes, which run first. It costs one pointer beyond its base until it gets a handler. UI thread only.
+// Its operations are those of ZELSYPEventListening. UI thread only.
 #ifndef ZELSYPSimpleEventListener_H
 #define ZELSYPSimpleEventListener_H
 
 #include "OPXCoreToolsExport.h"
 #include "ZELBaseUnknown.h"
+#include "ZELSYPEventListening.h"
 
-#include <memory>
+extern template class ZELSYPEventListening<ZELBaseUnknown>;
 
-class ZELSYPClassEventHandlersSupport;
-class ZELSYPEvent;
-class ZELSYPEventArgs;
-class ZELSYPEventFactory;
-class ZELSYPEventHandler;
-class ZELSYPEventHandlersSupport;
-
-class OPXCORETOOLS_EXPORT ZELSYPSimpleEventListener : public ZELBaseUnknown
+class OPXCORETOOLS_EXPORT ZELSYPSimpleEventListener : public ZELSYPEventListening<ZELBaseUnknown>
 {
   ZELDeclareClass;
-
-public:
-  // Handlers of this listener alone: what ZELSYPEventHandlersSupport answers and reports, on a store that the first of
-  // these calls makes, of either kind.
-  int AddHandler(ZELSYPEvent* i_pEvent, ZELSYPEventHandler* i_pHandler, int i_handleConsumedEvents);
-  int RemoveHandler(ZELSYPEvent* i_pEvent, ZELSYPEventHandler* i_pHandler);
-  // Handlers of all listeners of class i_pClass, this one or one that derives from it: what ZELSYPClassEventHandlersSupport
-  // answers and reports.
-  static int AddClassHandler(ZELMetaClass* i_pClass, ZELSYPEvent* i_pEvent, ZELSYPEventHandler* i_pHandler, int i_handleConsumedEvents);
-  static int RemoveClassHandler(ZELMetaClass* i_pClass, ZELSYPEvent* i_pEvent, ZELSYPEventHandler* i_pHandler);
-  // Runs the class handlers and this listener's own, with this listener as origin: what ZELSYPEventPathBuilder::Dispatch
-  // answers and reports. 0, and nothing runs, class handlers neither, while no handler was ever added to this listener or
-  // removed from it.
-  int Dispatch(ZELSYPEventArgs* i_pArgs);
-  // The store of this listener's own handlers, null until the first one is added or removed, and the store of the class
-  // handlers, null likewise; borrowed.
-  ZELSYPEventHandlersSupport* GetHandlersSupport() const noexcept;
-  static ZELSYPClassEventHandlersSupport* GetClassHandlersSupport() noexcept;
 
 protected:
   ZELSYPSimpleEventListener();
   ~ZELSYPSimpleEventListener() override;
-
-  // Where derived classes declare their events; it lives until the library is unloaded. Any thread.
-  static ZELSYPEventFactory* GetEventFactory();
-
-private:
-  std::unique_ptr<ZELSYPEventHandlersSupport> _pEventHandlersSupport;
-  // Deleted when the library is unloaded.
-  static std::unique_ptr<ZELSYPClassEventHandlersSupport> _pClassEventHandlersSupport;
 };
 
 #endif
