@@ -118,17 +118,3 @@ TEST_F(OPXExplorerSelectionTest, TheSelectionIsTheSameForAllViewsAndEachIsTold)
   Add({"file"});
   EXPECT_THAT(other, ElementsAre(Notification({{"addedNodes", {"file"}}})));
 }
-
-TEST_F(OPXExplorerSelectionTest, NoMoreNodesThanTheLimitAreSelected)
-{
-  json ids = json::array();
-  for (std::size_t i = 0; i <= OPXExplorerDirectorySource::MaxSelected; ++i)
-  {
-    ids.push_back("n" + std::to_string(i));
-    tree.AddFile(ids.back().get_ref<const std::string&>());
-  }
-  EXPECT_EQ(Add(ids), json({{"removedNodes", {ids.back()}}}));
-  EXPECT_EQ(sent.at(0)["params"]["addedNodes"].size(), OPXExplorerDirectorySource::MaxSelected);
-  Remove({"n0"});
-  EXPECT_EQ(Add({ids.back()}), json::object());
-}

@@ -4,42 +4,61 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstddef>
+#include <sstream>
 #include <string>
+#include <vector>
 
 namespace
 {
-// The name at the start of the only line.
-std::string PrintedName(const std::string& i_name)
+std::string Print(const TemporaryTree& i_tree)
+{
+  return ChildProcess(ChildProcess::Beside("opx-explorer"), {"--rows", "100", i_tree.SystemPath().u8string()}).Run().out;
+}
+
+// Names with each of the characters between letters, as they are printed, sorted.
+std::vector<std::string> PrintNamesWith(const std::vector<std::string>& i_characters)
 {
   TemporaryTree tree;
-  tree.AddFile(i_name);
-  const std::string out = ChildProcess(ChildProcess::Beside("opx-explorer"), {tree.SystemPath().u8string()}).Run().out;
-  return out.substr(0, out.find(' '));
+  for (std::size_t i = 0; i < i_characters.size(); ++i)
+    tree.AddFile("name" + std::to_string(i) + i_characters[i] + "fdp.exe");
+  std::istringstream lines(Print(tree));
+  std::vector<std::string> names;
+  for (std::string line; std::getline(lines, line);)
+    names.push_back(line.substr(0, line.find(' ')));
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+std::vector<std::string> MakeNames(std::size_t i_count, const std::vector<std::string>& i_characters)
+{
+  std::vector<std::string> names;
+  for (std::size_t i = 0; i < i_count; ++i)
+    names.push_back("name" + std::to_string(i) + i_characters[i % i_characters.size()] + "fdp.exe");
+  std::sort(names.begin(), names.end());
+  return names;
 }
 } // namespace
 
-TEST(OPXExplorerTreePrinterTest, ControlsBeyondASCIIDoNotReachTheTerminal)
+TEST(OPXExplorerTreePrinterTest, ControlsOfASCIIAndBeyondDoNotReachTheTerminal)
 {
-  EXPECT_EQ(PrintedName("a\xC2\x80z\xC2\x9Bz\xC2\x9Fz"), "a?z?z?z");
-}
-
-TEST(OPXExplorerTreePrinterTest, ADeleteCharacterDoesNotReachTheTerminal)
-{
-  EXPECT_EQ(PrintedName("a\x7Fz"), "a?z");
+  EXPECT_EQ(PrintNamesWith({"\x7F", "\xC2\x80", "\xC2\x9B", "\xC2\x9F"}), MakeNames(4, {"?"}));
 }
 
 TEST(OPXExplorerTreePrinterTest, WhatChangesTheDirectionOfALineDoesNotReachTheTerminal)
 {
-  for (const char* const control : {"\xD8\x9C", "\xE2\x80\x8E", "\xE2\x80\x8F", "\xE2\x80\xAA", "\xE2\x80\xAB", "\xE2\x80\xAC",
-                                    "\xE2\x80\xAD", "\xE2\x80\xAE", "\xE2\x81\xA6", "\xE2\x81\xA7", "\xE2\x81\xA8", "\xE2\x81\xA9"})
-    EXPECT_EQ(PrintedName("evil" + std::string(control) + "fdp.exe"), "evil?fdp.exe");
+  EXPECT_EQ(PrintNamesWith({"\xD8\x9C", "\xE2\x80\x8E", "\xE2\x80\x8F", "\xE2\x80\xAA", "\xE2\x80\xAB", "\xE2\x80\xAC", "\xE2\x80\xAD",
+                            "\xE2\x80\xAE", "\xE2\x81\xA6", "\xE2\x81\xA7", "\xE2\x81\xA8", "\xE2\x81\xA9"}),
+            MakeNames(12, {"?"}));
 }
 
 TEST(OPXExplorerTreePrinterTest, TheNeighboursOfTheControlsArePrinted)
 {
-  for (const char* const name : {"a\xC2\xA0z", "a\xC3\x80z", "a\xD8\x9Bz", "a\xD8\x9Dz", "a\xE2\x80\x8Dz", "a\xE2\x80\x90z",
-                                 "a\xE2\x80\xA9z", "a\xE2\x80\xAFz", "a\xE2\x81\xA5z", "a\xE2\x81\xAAz", "a\xF0\x9F\x98\x80z"})
-    EXPECT_EQ(PrintedName(name), name);
+  const std::vector<std::string> neighbours = {"\xC2\xA0",     "\xC3\x80",     "\xD8\x9B",        "\xD8\x9D",
+                                               "\xE2\x80\x8D", "\xE2\x80\x90", "\xE2\x80\xA9",    "\xE2\x80\xAF",
+                                               "\xE2\x81\xA5", "\xE2\x81\xAA", "\xF0\x9F\x98\x80"};
+  EXPECT_EQ(PrintNamesWith(neighbours), MakeNames(11, neighbours));
 }
 
 TEST(OPXExplorerTreePrinterTest, AControlTakesOneColumn)
@@ -47,6 +66,6 @@ TEST(OPXExplorerTreePrinterTest, AControlTakesOneColumn)
   TemporaryTree tree;
   tree.AddFile("a\xE2\x80\xAEz");
   tree.AddFile("abz");
-  const std::string out = ChildProcess(ChildProcess::Beside("opx-explorer"), {tree.SystemPath().u8string()}).Run().out;
+  const std::string out = Print(tree);
   EXPECT_EQ(out.find("0 B"), out.find("0 B", out.find('\n')) - out.find('\n') - 1);
 }

@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 class OPXTreeAnswer;
@@ -37,10 +38,11 @@ private:
     std::string text;
   };
 
-  // i_member: "result" or "error" with its value. Only the first one of an entry counts.
-  void Set(std::size_t i_place, const std::string& i_member);
+  // i_key: "result" or "error". Only the first value of an entry counts.
+  void Set(std::size_t i_place, const char* i_key, const std::string& i_value);
   void SetMissing(std::size_t i_place);
-  std::string Compose() const;
+  // Takes the answers: there may be megabytes of them.
+  std::string Compose();
 
   const bool _isBatch;
   std::vector<Entry> _entries;
@@ -60,8 +62,8 @@ public:
   ~OPXTreeAnswer() { _pReply->SetMissing(_place); }
 
   // As JSON text.
-  void SetResult(const std::string& i_result) { _pReply->Set(_place, "\"result\":" + i_result); }
-  void SetError(const OPXTreeError& i_error) { _pReply->Set(_place, "\"error\":" + i_error.ToJSON()); }
+  void SetResult(const std::string& i_result) { _pReply->Set(_place, "result", i_result); }
+  void SetError(const OPXTreeError& i_error) { _pReply->Set(_place, "error", i_error.ToJSON()); }
 
 private:
   const std::shared_ptr<OPXTreeReply> _pReply;
