@@ -31,9 +31,12 @@ public:
   // The store of this very class, borrowed, or null. No class: "i_pClass". An entry without a store: "pSupport".
   ZELSYPEventHandlersSupport* GetClassHandlersSupport(ZELMetaClass* i_pClass);
 
+protected:
+  typedef ZELSYPHashMap<ZELMetaClass*, ZELSYPEventHandlersSupport*> SupportsByClass;
+  SupportsByClass _supports;
+
 private:
   friend class ZELSYPSupportsEventPathBuilder;
-  typedef ZELSYPHashMap<ZELMetaClass*, ZELSYPEventHandlersSupport*> SupportsByClass;
   typedef ZELSYPArray<ZELSYPEventHandlersSupport*> Chain;
 
   // The stores of a class and its base classes, most derived class first: the one at i_index, or null past the last.
@@ -49,7 +52,6 @@ private:
   ZELSYPEventHandlersSupport* FindOrAddSupport(ZELMetaClass* i_pClass);
   void Clear();
 
-  SupportsByClass _supports;
   // What was found out about the chains of classes; forgotten when a class gets its store.
   ZELSYPHashMap<ZELMetaClass*, Chain> _chains;
   ZELMetaClass* _pLastClass = nullptr;

@@ -56,9 +56,8 @@ private:
   // Loops over a snapshot that nobody can write to while it is held; a registration may be null there.
   friend class ZELSYPEventHandlersSupport;
   friend class ZELSYPEventPathElt;
-  ZELSYPEventHandlerInfo* const* begin() const noexcept { return _pSharedData ? Handlers().begin() : nullptr; }
-  ZELSYPEventHandlerInfo* const* end() const noexcept { return _pSharedData ? Handlers().end() : nullptr; }
-  const ZELSYPArray<ZELSYPEventHandlerInfo*>& Handlers() const noexcept { return _pSharedData->_handlers; }
+  ZELSYPEventHandlerInfo* const* begin() const noexcept { return _pSharedData ? _pSharedData->_handlers.begin() : nullptr; }
+  ZELSYPEventHandlerInfo* const* end() const noexcept { return _pSharedData ? _pSharedData->_handlers.end() : nullptr; }
 
   bool HasInfoAt(int i_index) const;
   bool UpdateDataForModification();

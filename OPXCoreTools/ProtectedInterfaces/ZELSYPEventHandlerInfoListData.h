@@ -8,13 +8,14 @@
 #include "OPXCoreToolsExport.h"
 #include "ZELSYPArray.h"
 #include "ZELSYPImplicitSharedData.h"
+#include "ZELSYPRecycledBlocks.h"
 
 class ZELSYPEventHandlerInfo;
 
 class OPXCORETOOLS_EXPORT ZELSYPEventHandlerInfoListData : public ZELSYPImplicitSharedData
 {
 public:
-  ZELSYPEventHandlerInfoListData() = default;
+  ZELSYPEventHandlerInfoListData() { _handlers.UseRoom(_room); }
   ZELSYPEventHandlerInfoListData(const ZELSYPEventHandlerInfoListData&) = delete;
   ZELSYPEventHandlerInfoListData& operator=(const ZELSYPEventHandlerInfoListData&) = delete;
   // Releases every registration. A null one: "NULL handler info?".
@@ -28,7 +29,12 @@ protected:
   // Puts the registration at the end, with a reference more on it; without memory nothing changes.
   void Append(ZELSYPEventHandlerInfo* i_pInfo);
 
-  ZELSYPArray<ZELSYPEventHandlerInfo*> _handlers;
+private:
+  // For a list of one, which most are.
+  ZELSYPRecycledBlocks::Room<ZELSYPEventHandlerInfo*, 1> _room;
+
+protected:
+  ZELSYPArray<ZELSYPEventHandlerInfo*, ZELSYPRecycledBlocks> _handlers;
 };
 
 #endif

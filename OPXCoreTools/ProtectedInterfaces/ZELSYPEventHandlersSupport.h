@@ -39,9 +39,12 @@ public:
   // Replacing with itself does nothing.
   void ReplaceHandlers(const ZELSYPEventHandlersSupport& i_support);
 
+protected:
+  typedef ZELSYPHashMap<ZELSYPEvent*, ZELSYPEventHandlerInfoList> ListsByEvent;
+  ListsByEvent _eventHandlers;
+
 private:
   friend class ZELSYPSupportsEventPathBuilder;
-  typedef ZELSYPHashMap<ZELSYPEvent*, ZELSYPEventHandlerInfoList> ListsByEvent;
 
   ZELSYPEventHandlerInfoList* FindOrAddList(ZELSYPEvent* i_pEvent);
   void StoreList(ZELSYPEvent* i_pEvent, const ZELSYPEventHandlerInfoList& i_list);
@@ -49,15 +52,26 @@ private:
   // The stored list once it is pruned, or null.
   ZELSYPEventHandlerInfoList* FindPrunedList(ZELSYPEvent* i_pEvent)
   {
-    ZELSYPEventHandlerInfoList* const pList = _eventHandlers.Locate(i_pEvent);
+    ZELSYPEventHandlerInfoList* const pList = FindList(i_pEvent);
     if (pList)
       pList->AutoRemove();
     return pList;
   }
+  // Most often the event is the one that was asked for last.
+  ZELSYPEventHandlerInfoList* FindList(ZELSYPEvent* i_pEvent)
+  {
+    if (i_pEvent != _pLastEvent)
+    {
+      _pLastList = _eventHandlers.Locate(i_pEvent);
+      _pLastEvent = i_pEvent;
+    }
+    return _pLastList;
+  }
   void CopyFrom(const ZELSYPEventHandlersSupport& i_support);
   void Clear();
 
-  ListsByEvent _eventHandlers;
+  ZELSYPEvent* _pLastEvent = nullptr;
+  ZELSYPEventHandlerInfoList* _pLastList = nullptr;
 };
 
 #endif

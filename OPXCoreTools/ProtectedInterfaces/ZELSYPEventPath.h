@@ -42,15 +42,18 @@ public:
   static void operator delete(void* i_pMemory) noexcept { ZELSYPRecycledBlocks::GiveBack(i_pMemory); }
 
 private:
+  ZELSYPRecycledBlocks::Room<ZELSYPEventPathElt*, 8> _room;
+
+protected:
+  ZELSYPArray<ZELSYPEventPathElt*, ZELSYPRecycledBlocks> _elements;
+
+private:
   friend class ZELSYPEventPathBuilder;
   void ReserveElements(int i_count)
   {
     if (i_count > _elements.GetCapacity())
       _elements.SetCapacity(i_count);
   }
-
-  ZELSYPArray<ZELSYPEventPathElt*, ZELSYPRecycledBlocks> _elements;
-  ZELSYPRecycledBlocks::Room<ZELSYPEventPathElt*, 8> _room;
 };
 
 #endif

@@ -55,7 +55,7 @@ private:
   bool FillPath(ZELSYPEventPath& io_path, ZELSYPEventArgs* i_pArgs);
   bool AddStops(ZELSYPEventPath& io_path, ZELSYPEventArgs* i_pArgs);
   int FillListOfNodes(Nodes& io_list, ZELSYPEventArgs* i_pArgs);
-  int AddChain(Nodes& io_list, ZELSYPEventArgs& i_args, ZELBaseUnknown* i_pOrigin);
+  void AddChain(Nodes& io_list, ZELSYPEventArgs& i_args, ZELBaseUnknown* i_pOrigin);
   bool BuildElements(ZELSYPEventPath& io_path, ZELSYPEventArgs& io_args, Nodes& io_nodes);
 };
 

@@ -54,9 +54,9 @@ private:
   [[gnu::cold]] void RunObserved(int i_list, int i_index, ZELSYPEventHandlerInfo& i_info, ZELSYPEventArgs& io_args) const;
 
   ZELBaseUnknown_var _spNode;
-  ZELSYPArray<ZELSYPEventHandlerInfoList, ZELSYPRecycledBlocks> _lists;
   // For the list of the node's class and its own.
   ZELSYPRecycledBlocks::Room<ZELSYPEventHandlerInfoList, 2> _room;
+  ZELSYPArray<ZELSYPEventHandlerInfoList, ZELSYPRecycledBlocks> _lists;
 };
 
 #endif

@@ -1,9 +1,8 @@
 #include "ZELSYPEventMap.h"
 
 #include "EventWorld.h"
+#include "MeddlingFailureHandler.h"
 #include "RecordingFailureHandler.h"
-#include "ZELSYPCheckFailureHandler.h"
-#include "ZELSYPCheckFailureHandlerSetter.h"
 
 #include <gmock/gmock.h>
 
@@ -23,31 +22,6 @@ class OpenMap : public ZELSYPEventMap
 {
 public:
   using ZELSYPEventMap::_events;
-};
-
-// While it lives, something is done whenever a check fails; the reports are counted by what they say.
-class MeddlingFailureHandler : public ZELSYPCheckFailureHandler, private ZELSYPCheckFailureHandlerSetter
-{
-public:
-  static void While(const std::function<void()>& i_meddling, const std::function<void()>& i_run, std::vector<std::string>& o_messages)
-  {
-    auto* const pHandler = new MeddlingFailureHandler;
-    pHandler->_meddling = i_meddling;
-    SetFailureHandler(pHandler);
-    i_run();
-    SetFailureHandler(nullptr);
-    o_messages = pHandler->_messages;
-    pHandler->Release();
-  }
-  void HandleFailure(const char* i_message, const char*, int, const char*) override
-  {
-    _messages.push_back(i_message);
-    _meddling();
-  }
-
-private:
-  std::function<void()> _meddling;
-  std::vector<std::string> _messages;
 };
 
 class ZELSYPEventMapTest : public testing::Test

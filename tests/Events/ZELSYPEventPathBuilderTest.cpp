@@ -13,6 +13,27 @@
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+typedef ZELSYPArray<ZELBaseUnknown_var, ZELSYPRecycledBlocks> Nodes;
+
+// Opens two private steps, to give them what the steps before them never would.
+template <class Tag, typename Tag::Type step>
+struct OpenStep
+{
+  friend typename Tag::Type Get(Tag) { return step; }
+};
+struct FillListOfNodes
+{
+  typedef int (ZELSYPEventPathBuilder::*Type)(Nodes&, ZELSYPEventArgs*);
+  friend Type Get(FillListOfNodes);
+};
+template struct OpenStep<FillListOfNodes, &ZELSYPEventPathBuilder::FillListOfNodes>;
+struct BuildElements
+{
+  typedef bool (ZELSYPEventPathBuilder::*Type)(ZELSYPEventPath&, ZELSYPEventArgs&, Nodes&);
+  friend Type Get(BuildElements);
+};
+template struct OpenStep<BuildElements, &ZELSYPEventPathBuilder::BuildElements>;
+
 namespace
 {
 class ZELSYPEventPathBuilderTest : public testing::Test, protected RouteWorld
@@ -542,4 +563,57 @@ TEST_F(ZELSYPEventPathBuilderTest, StopForNothingIsOneObjectWithoutListsForEver)
   EXPECT_STREQ("ZELBaseUnknown", pNothing->GetNode()->IsA());
   Raise(*_leaf);
   EXPECT_EQ(1, CountReferences(pNothing->GetNode()));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, ListOfNodesThatIsNotEmptyIsRefused)
+{
+  Nodes nodes;
+  nodes.Append(ZELBaseUnknown_var(_leaf));
+  ZELSYPEventArgs args(_pEvent);
+  args.SetOrigin(_leaf);
+  WidgetBuilder builder;
+  EXPECT_EQ(0, (builder.*Get(FillListOfNodes()))(nodes, &args));
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("boolean io_list.GetLength() == 0 is FALSE"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, ListOfNodesNeedsArgumentsWithOriginAndEvent)
+{
+  Nodes nodes;
+  ZELSYPEventArgs withoutOrigin(_pEvent), withoutEvent(nullptr);
+  withoutEvent.SetOrigin(_leaf);
+  _failures.Clear();
+  WidgetBuilder builder;
+  EXPECT_EQ(0, (builder.*Get(FillListOfNodes()))(nodes, nullptr));
+  EXPECT_EQ(0, (builder.*Get(FillListOfNodes()))(nodes, &withoutOrigin));
+  EXPECT_EQ(0, (builder.*Get(FillListOfNodes()))(nodes, &withoutEvent));
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer i_pArgs is NULL", "handler spOrigin is NULL_var", "pointer pEvent is NULL"));
+  EXPECT_EQ(0, nodes.GetLength());
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, ListOfNodesIsInTheOrderOfTheWalk)
+{
+  ZELSYPEventArgs up(_pUp), down(_pDown), here(_pHere);
+  WidgetBuilder builder;
+  std::vector<std::vector<const ZELBaseUnknown*>> walks;
+  for (ZELSYPEventArgs* const pArgs : {&up, &down, &here})
+  {
+    Nodes nodes;
+    pArgs->SetOrigin(_leaf);
+    EXPECT_EQ(1, (builder.*Get(FillListOfNodes()))(nodes, pArgs));
+    walks.emplace_back(nodes.begin(), nodes.end());
+  }
+  EXPECT_THAT(walks[0], ElementsAre(_leaf.Get(), _parent.Get(), _root.Get()));
+  EXPECT_THAT(walks[1], ElementsAre(_root.Get(), _parent.Get(), _leaf.Get()));
+  EXPECT_THAT(walks[2], ElementsAre(_leaf.Get()));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, NullNodeEndsTheRoute)
+{
+  Nodes nodes;
+  nodes.Append(NULL_var);
+  ZELSYPEventArgs args(_pEvent);
+  ZELSYPEventPath path;
+  WidgetBuilder builder;
+  EXPECT_FALSE((builder.*Get(BuildElements()))(path, args, nodes));
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("handler spNode is NULL_var"));
 }

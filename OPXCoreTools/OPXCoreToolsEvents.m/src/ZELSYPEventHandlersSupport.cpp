@@ -113,6 +113,7 @@ ZELSYPEventHandlerInfoList* ZELSYPEventHandlersSupport::FindOrAddList(ZELSYPEven
 
 void ZELSYPEventHandlersSupport::StoreList(ZELSYPEvent* i_pEvent, const ZELSYPEventHandlerInfoList& i_list)
 {
+  _pLastEvent = nullptr;
   if (_eventHandlers.Set(i_pEvent, i_list) != 1)
     return;
   i_pEvent->AddRef();
@@ -140,5 +141,6 @@ void ZELSYPEventHandlersSupport::Clear()
       ReleaseEvent(*pEntry->_key);
   }
   _eventHandlers.RemoveAll();
+  _pLastEvent = nullptr;
   ZELSYP_CHECK_TRUE(_eventHandlers.GetSize() == 0);
 }

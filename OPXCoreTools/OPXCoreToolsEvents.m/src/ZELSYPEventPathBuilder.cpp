@@ -120,7 +120,7 @@ ZELSYPEventPathElt* ZELSYPEventPathBuilder::NO_ELEMENT()
   return s_pNoElement;
 }
 
-inline int ZELSYPEventPathBuilder::FillListOfNodes(Nodes& io_list, ZELSYPEventArgs* i_pArgs)
+int ZELSYPEventPathBuilder::FillListOfNodes(Nodes& io_list, ZELSYPEventArgs* i_pArgs)
 {
   if (!ZELSYP_CHECK_TRUE(io_list.GetLength() == 0) || !ZELSYP_CHECK_POINTER(i_pArgs))
     return 0;
@@ -131,22 +131,23 @@ inline int ZELSYPEventPathBuilder::FillListOfNodes(Nodes& io_list, ZELSYPEventAr
   const ZELSYPEvent::Propagation propagation = pEvent->GetPropagation();
   if (propagation == ZELSYPEvent::NoPropagation)
     return io_list.Append(ZELBaseUnknown_var(spOrigin));
-  if (!IsKnown(propagation) || !AddChain(io_list, *i_pArgs, spOrigin))
+  if (!IsKnown(propagation))
     return 0;
+  AddChain(io_list, *i_pArgs, spOrigin);
   if (propagation == ZELSYPEvent::RootToOrigin)
     std::reverse(io_list.begin(), io_list.end());
   return ZELSYP_CHECK_TRUE(io_list.GetLength() >= 1);
 }
 
-inline int ZELSYPEventPathBuilder::AddChain(Nodes& io_list, ZELSYPEventArgs& i_args, ZELBaseUnknown* i_pOrigin)
+// A node that there is no memory for ends the chain, and leaves no part of it.
+inline void ZELSYPEventPathBuilder::AddChain(Nodes& io_list, ZELSYPEventArgs& i_args, ZELBaseUnknown* i_pOrigin)
 {
   for (ZELBaseUnknown* pNode = i_pOrigin; pNode; pNode = GetParent(&i_args, pNode))
     if (!io_list.Append(ZELBaseUnknown_var(pNode)))
-      return 0;
-  return 1;
+      return io_list.RemoveAll();
 }
 
-inline bool ZELSYPEventPathBuilder::BuildElements(ZELSYPEventPath& io_path, ZELSYPEventArgs& io_args, Nodes& io_nodes)
+bool ZELSYPEventPathBuilder::BuildElements(ZELSYPEventPath& io_path, ZELSYPEventArgs& io_args, Nodes& io_nodes)
 {
   const ShownNode shown(io_args._pRouteNode);
   io_path.ReserveElements(io_nodes.GetLength());

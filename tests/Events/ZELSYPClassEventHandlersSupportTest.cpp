@@ -1,0 +1,153 @@
+#include "ZELSYPClassEventHandlersSupport.h"
+
+#include "MeddlingFailureHandler.h"
+#include "OpenStores.h"
+#include "RecordingFailureHandler.h"
+#include "RouteWorld.h"
+
+#include <gmock/gmock.h>
+
+#include <memory>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace
+{
+class ZELSYPClassEventHandlersSupportTest : public testing::Test, protected RouteWorld
+{
+protected:
+  RecordingFailureHandler _failures;
+};
+} // namespace
+
+TEST_F(ZELSYPClassEventHandlersSupportTest, EachClassHasItsOwnStoreMadeByTheFirstAddition)
+{
+  EXPECT_EQ(nullptr, _classHandlers.GetClassHandlersSupport(Panel::MetaObject()));
+  EXPECT_EQ(1, _classHandlers.AddClassHandler(Panel::MetaObject(), _pUp, Keep("panel"), 5));
+  EXPECT_EQ(1, _classHandlers.AddClassHandler(Widget::MetaObject(), _pUp, Keep("widget"), 0));
+  ZELSYPEventHandlersSupport* const pPanels = _classHandlers.GetClassHandlersSupport(Panel::MetaObject());
+  ASSERT_NE(nullptr, pPanels);
+  EXPECT_NE(pPanels, _classHandlers.GetClassHandlersSupport(Widget::MetaObject()));
+  EXPECT_EQ(1, pPanels->GetHandlersList(_pUp).GetSize());
+  EXPECT_THAT(_failures.GetMessages(), IsEmpty());
+}
+
+TEST_F(ZELSYPClassEventHandlersSupportTest, StoreOfABaseClassIsNotAnsweredForADerivedOne)
+{
+  _classHandlers.AddClassHandler(Panel::MetaObject(), _pUp, Keep("panel"), 0);
+  EXPECT_EQ(nullptr, _classHandlers.GetClassHandlersSupport(Button::MetaObject()));
+  EXPECT_EQ(nullptr, _classHandlers.GetClassHandlersSupport(Widget::MetaObject()));
+  EXPECT_THAT(_failures.GetMessages(), IsEmpty());
+}
+
+TEST_F(ZELSYPClassEventHandlersSupportTest, AdditionAnswersWhatTheStoreAnswers)
+{
+  LoggingHandler* const pHandler = Keep("handler");
+  pHandler->_pArgumentsClass = DoorArgs::MetaObject();
+  EXPECT_EQ(0, _classHandlers.AddClassHandler(Panel::MetaObject(), _pUp, pHandler, 0));
+  EXPECT_THAT(_failures.GetMessages(),
+              ElementsAre("The handler expects argument of type DoorArgs but the event uses arguments of type ZELSYPEventArgs"));
+  EXPECT_NE(nullptr, _classHandlers.GetClassHandlersSupport(Panel::MetaObject()));
+}
+
+TEST_F(ZELSYPClassEventHandlersSupportTest, RemovalTakesOneRegistrationOfThatClass)
+{
+  LoggingHandler* const pHandler = Keep("handler");
+  _classHandlers.AddClassHandler(Panel::MetaObject(), _pUp, pHandler, 0);
+  EXPECT_EQ(0, _classHandlers.RemoveClassHandler(Widget::MetaObject(), _pUp, pHandler));
+  EXPECT_EQ(0, _classHandlers.RemoveClassHandler(Panel::MetaObject(), _pDown, pHandler));
+  EXPECT_EQ(1, _classHandlers.RemoveClassHandler(Panel::MetaObject(), _pUp, pHandler));
+  EXPECT_EQ(0, _classHandlers.RemoveClassHandler(Panel::MetaObject(), _pUp, pHandler));
+  EXPECT_NE(nullptr, _classHandlers.GetClassHandlersSupport(Panel::MetaObject()));
+  EXPECT_THAT(_failures.GetMessages(), IsEmpty());
+}
+
+TEST_F(ZELSYPClassEventHandlersSupportTest, WhatIsNullIsReported)
+{
+  LoggingHandler* const pHandler = Keep("handler");
+  EXPECT_EQ(0, _classHandlers.AddClassHandler(nullptr, _pUp, pHandler, 0));
+  EXPECT_EQ(0, _classHandlers.AddClassHandler(Panel::MetaObject(), nullptr, pHandler, 0));
+  EXPECT_EQ(0, _classHandlers.AddClassHandler(Panel::MetaObject(), _pUp, nullptr, 0));
+  EXPECT_EQ(0, _classHandlers.RemoveClassHandler(nullptr, _pUp, pHandler));
+  EXPECT_EQ(0, _classHandlers.RemoveClassHandler(Panel::MetaObject(), nullptr, pHandler));
+  EXPECT_EQ(0, _classHandlers.RemoveClassHandler(Panel::MetaObject(), _pUp, nullptr));
+  EXPECT_EQ(nullptr, _classHandlers.GetClassHandlersSupport(nullptr));
+  EXPECT_THAT(_failures.GetMessages(),
+              ElementsAre("pointer i_pClass is NULL", "pointer i_pEvent is NULL", "pointer i_pHandler is NULL", "pointer i_pClass is NULL",
+                          "pointer i_pEvent is NULL", "pointer i_pHandler is NULL", "pointer i_pClass is NULL"));
+  EXPECT_EQ("ZELSYPClassEventHandlersSupport.cpp", _failures.GetFailures()[0].file);
+  EXPECT_EQ(nullptr, _classHandlers.GetClassHandlersSupport(Panel::MetaObject()));
+}
+
+TEST_F(ZELSYPClassEventHandlersSupportTest, EntryWithoutStoreIsReported)
+{
+  LoggingHandler* const pHandler = Keep("handler");
+  {
+    OpenClassSupport support;
+    support._supports.Set(Panel::MetaObject(), nullptr);
+    EXPECT_EQ(0, support.AddClassHandler(Panel::MetaObject(), _pUp, pHandler, 0));
+    EXPECT_EQ(0, support.RemoveClassHandler(Panel::MetaObject(), _pUp, pHandler));
+    EXPECT_EQ(nullptr, support.GetClassHandlersSupport(Panel::MetaObject()));
+  }
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer pSupport is NULL", "pointer pSupport is NULL", "pointer pSupport is NULL",
+                                                   "pointer pEntry->value is NULL"));
+}
+
+TEST_F(ZELSYPClassEventHandlersSupportTest, StoresGoWithIt)
+{
+  {
+    ZELSYPClassEventHandlersSupport support;
+    support.AddClassHandler(Panel::MetaObject(), _pUp, Keep("panel"), 0);
+    support.AddClassHandler(Button::MetaObject(), _pUp, Keep("button"), 0);
+    EXPECT_EQ(3, CountReferences(_pUp));
+  }
+  EXPECT_EQ(1, CountReferences(_pUp));
+  EXPECT_EQ(1, CountReferences(_kept[0]));
+  EXPECT_EQ(1, CountReferences(_kept[1]));
+  EXPECT_THAT(_failures.GetMessages(), IsEmpty());
+}
+
+TEST_F(ZELSYPClassEventHandlersSupportTest, EntryThatCannotBeReadAsTheStoresChangeIsReportedAndEndsTheWalk)
+{
+  auto pSupport = std::make_unique<OpenClassSupport>();
+  pSupport->_supports.Set(Panel::MetaObject(), nullptr);
+  pSupport->_supports.Set(Widget::MetaObject(), nullptr);
+  std::vector<std::string> messages;
+  MeddlingFailureHandler::While([pRaw = pSupport.get()] { pRaw->_supports.Set(Button::MetaObject(), nullptr); }, [&] { pSupport = nullptr; }, messages);
+  EXPECT_THAT(messages, ElementsAre("pointer pEntry->value is NULL", "boolean _pHashTable->Size() == _size is FALSE",
+                                    "boolean _pHashTable->Size() == _size is FALSE", "pointer pEntry is NULL"));
+}
+
+TEST_F(ZELSYPClassEventHandlersSupportTest, HandlerThatAddsAnotherOneAsTheStoresGoIsReported)
+{
+  class LastWords : public CountedHandler
+  {
+  public:
+    explicit LastWords(std::function<void()> i_words) : _words(std::move(i_words)) {}
+    ~LastWords() override { _words(); }
+
+    const std::function<void()> _words;
+  };
+  LoggingHandler* const pOther = Keep("other");
+  auto pSupport = std::make_unique<OpenClassSupport>();
+  ZELSYPEventHandler* const pDying = new LastWords([&, pRaw = pSupport.get()] { pRaw->_supports.Set(Panel::MetaObject(), nullptr); });
+  pSupport->AddClassHandler(Panel::MetaObject(), _pUp, pDying, 0);
+  pSupport->AddClassHandler(Panel::MetaObject(), _pUp, pOther, 0);
+  pDying->Release();
+  pSupport = nullptr;
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("boolean _supports.GetSize() == 0 is FALSE"));
+  EXPECT_EQ(1, CountReferences(pOther));
+}
+
+TEST_F(ZELSYPClassEventHandlersSupportTest, ClassThatGetsItsFirstHandlerBetweenTwoDispatchesIsSeenByTheSecond)
+{
+  _pEvent = _pHere;
+  Listen(Widget::MetaObject(), "widget");
+  Raise(*_leaf);
+  Listen(Panel::MetaObject(), "panel");
+  Raise(*_leaf);
+  Listen(Button::MetaObject(), "button");
+  Raise(*_leaf);
+  EXPECT_THAT(_log, ElementsAre("widget", "panel", "widget", "button", "panel", "widget"));
+}
