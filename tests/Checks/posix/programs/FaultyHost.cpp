@@ -42,12 +42,27 @@ void* operator new(std::size_t i_bytes)
   return pMemory ? pMemory : throw std::bad_alloc();
 }
 
+void* operator new[](std::size_t i_bytes)
+{
+  return ::operator new(i_bytes);
+}
+
 void operator delete(void* i_pMemory) noexcept
 {
   std::free(i_pMemory);
 }
 
 void operator delete(void* i_pMemory, std::size_t) noexcept
+{
+  std::free(i_pMemory);
+}
+
+void operator delete[](void* i_pMemory) noexcept
+{
+  std::free(i_pMemory);
+}
+
+void operator delete[](void* i_pMemory, std::size_t) noexcept
 {
   std::free(i_pMemory);
 }
