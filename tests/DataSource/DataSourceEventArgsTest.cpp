@@ -64,7 +64,15 @@ protected:
 };
 
 using Kinds = testing::Types<ModelChanged, SelectionChanged, ViewUpdated>;
-TYPED_TEST_SUITE(DataSourceEventArgsTest, Kinds);
+struct KindNames
+{
+  template <class Kind>
+  static std::string GetName(int)
+  {
+    return Kind::name;
+  }
+};
+TYPED_TEST_SUITE(DataSourceEventArgsTest, Kinds, KindNames);
 } // namespace
 
 TYPED_TEST(DataSourceEventArgsTest, TheirClassIsAKindOfTheEventArguments)
