@@ -236,6 +236,20 @@ TEST_F(ZELSYPSubscribeTest, DoesNotFillAStoreWhoseEventIsNeverRaised)
   EXPECT_TRUE(kept.IsActive());
 }
 
+TEST_F(ZELSYPSubscribeTest, CountsWhatStandsInAStore)
+{
+  RecordingFailureHandler failures;
+  ZELSYPEventHandlersSupport support;
+  EXPECT_EQ(support.GetHandlersCount(Opened()), 0);
+  ZELSYPSubscription subscription = ZELSYPSubscribe(support, Opened(), runs.Adding("counted"));
+  subscription.End();
+  EXPECT_EQ(support.GetHandlersCount(Opened()), 1);
+  support.GetHandlersList(Opened());
+  EXPECT_EQ(support.GetHandlersCount(Opened()), 0);
+  EXPECT_EQ(support.GetHandlersCount(nullptr), 0);
+  EXPECT_THAT(failures.GetMessages(), ElementsAre("pointer i_pEvent is NULL"));
+}
+
 TEST_F(ZELSYPSubscribeTest, DoesNotFillAListenerWhoseEventIsNeverRaised)
 {
   for (int round = 0; round < 1000; ++round)
