@@ -14,6 +14,7 @@
 #include "ZELSYPRecycledBlocks.h"
 
 #include <cstddef>
+#include <new>
 #include <utility>
 
 class ZELSYPEventArgs;
@@ -45,7 +46,12 @@ public:
   // Of an index that has no list: what an array says, and an empty list.
   const ZELSYPEventHandlerInfoList& GetList(int i_index) const { return _lists[i_index]; }
 
-  static void* operator new(std::size_t i_bytes);
+  static void* operator new(std::size_t i_bytes)
+  {
+    if (void* const pMemory = ZELSYPRecycledBlocks::Take(i_bytes))
+      return pMemory;
+    throw std::bad_alloc();
+  }
   static void operator delete(void* i_pMemory) noexcept { ZELSYPRecycledBlocks::GiveBack(i_pMemory); }
 
 private:

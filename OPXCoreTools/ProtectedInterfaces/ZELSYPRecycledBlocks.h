@@ -16,7 +16,7 @@ struct OPXCORETOOLS_EXPORT ZELSYPRecycledBlocks
   class Room;
 
   // i_bytes of memory, aligned as new aligns by itself, or null when there is none.
-  static void* Take(std::size_t i_bytes) noexcept;
+  static void* Take(std::size_t i_bytes) noexcept { return TakeOf(KindOf(i_bytes), i_bytes); }
   // A block of i_bytes that begins with the first i_used bytes of io_block and takes its place. Null when there is no
   // memory, and io_block stands as it was. For a null io_block a new block.
   static void* Extend(void* io_block, std::size_t i_used, std::size_t i_bytes) noexcept;
@@ -30,6 +30,11 @@ struct OPXCORETOOLS_EXPORT ZELSYPRecycledBlocks
 private:
   enum : std::size_t
   {
+    // Blocks of 64 bytes to 1 MiB are kept; a larger one goes back to the heap.
+    SmallestBits = 6,
+    LargestBits = 20,
+    KindCount = LargestBits - SmallestBits + 1,
+    NotKept = KindCount,
     NoBlock = ~static_cast<std::size_t>(0)
   };
   // Stands before the memory that is handed out.
@@ -42,10 +47,21 @@ private:
       Head* _pNext;
     };
   };
+  // Known to the compiler where the size is.
+  static constexpr std::size_t KindOf(std::size_t i_bytes) noexcept
+  {
+    if (i_bytes <= (std::size_t{1} << SmallestBits) - sizeof(Head))
+      return 0;
+    if (i_bytes > (std::size_t{1} << LargestBits) - sizeof(Head))
+      return NotKept;
+    return 64 - static_cast<std::size_t>(__builtin_clzll(i_bytes + sizeof(Head) - 1)) - SmallestBits;
+  }
+
   struct Kept;
   struct KeptUntilThreadEnds;
 
   static Head* HeadOf(void* i_pBlock) noexcept { return static_cast<Head*>(i_pBlock) - 1; }
+  static void* TakeOf(std::size_t i_kind, std::size_t i_bytes) noexcept;
   static void* TakeFromHeap(std::size_t i_kind, std::size_t i_bytes) noexcept;
   static void Keep(Head* i_pBlock) noexcept;
 };

@@ -6,8 +6,6 @@
 #include "ZELSYPEventHandler.h"
 #include "ZELSYPEventHandlerInfo.h"
 
-#include <new>
-
 namespace
 {
 bool MayRun(const ZELSYPEventHandlerInfo& i_info, const ZELSYPEventArgs& i_args)
@@ -15,13 +13,6 @@ bool MayRun(const ZELSYPEventHandlerInfo& i_info, const ZELSYPEventArgs& i_args)
   return i_info.GetHandleConsumedEvents() != 0 || !i_args.IsConsumed();
 }
 } // namespace
-
-void* ZELSYPEventPathElt::operator new(std::size_t i_bytes)
-{
-  if (void* const pMemory = ZELSYPRecycledBlocks::Take(i_bytes))
-    return pMemory;
-  throw std::bad_alloc();
-}
 
 void ZELSYPEventPathElt::Dispatch(ZELSYPEventArgs* i_pArgs) const
 {

@@ -4,27 +4,15 @@
 #include <cstring>
 #include <new>
 
-namespace
-{
-enum : std::size_t
-{
-  // Blocks of 64 bytes to 1 MiB are kept; a larger one goes back to the heap.
-  SmallestBits = 6,
-  LargestBits = 20,
-  KindCount = LargestBits - SmallestBits + 1,
-  NotKept = KindCount
-};
-} // namespace
-
 // Plain data, so that it can be used before and after everything else of its thread.
 struct ZELSYPRecycledBlocks::Kept
 {
-  Head* _lists[KindCount];
+  // The last one is that of the blocks that are not kept: empty for ever.
+  Head* _lists[KindCount + 1];
   bool _threadEnds;
 
   [[gnu::tls_model("initial-exec")]] static thread_local Kept t_kept;
 
-  static std::size_t KindOf(std::size_t i_bytes) noexcept;
   static std::size_t BytesOf(std::size_t i_kind, std::size_t i_bytes) noexcept;
 };
 
@@ -44,15 +32,6 @@ struct ZELSYPRecycledBlocks::KeptUntilThreadEnds
   }
 };
 
-std::size_t ZELSYPRecycledBlocks::Kept::KindOf(std::size_t i_bytes) noexcept
-{
-  if (i_bytes <= (std::size_t{1} << SmallestBits) - sizeof(Head))
-    return 0;
-  if (i_bytes > (std::size_t{1} << LargestBits) - sizeof(Head))
-    return NotKept;
-  return 64 - static_cast<std::size_t>(__builtin_clzll(i_bytes + sizeof(Head) - 1)) - SmallestBits;
-}
-
 std::size_t ZELSYPRecycledBlocks::Kept::BytesOf(std::size_t i_kind, std::size_t i_bytes) noexcept
 {
   if (i_kind != NotKept)
@@ -60,14 +39,13 @@ std::size_t ZELSYPRecycledBlocks::Kept::BytesOf(std::size_t i_kind, std::size_t 
   return i_bytes > SIZE_MAX - sizeof(Head) ? SIZE_MAX : i_bytes + sizeof(Head);
 }
 
-void* ZELSYPRecycledBlocks::Take(std::size_t i_bytes) noexcept
+void* ZELSYPRecycledBlocks::TakeOf(std::size_t i_kind, std::size_t i_bytes) noexcept
 {
-  const std::size_t kind = Kept::KindOf(i_bytes);
-  Head* const pBlock = kind != NotKept ? Kept::t_kept._lists[kind] : nullptr;
+  Head* const pBlock = Kept::t_kept._lists[i_kind];
   if (!pBlock)
-    return TakeFromHeap(kind, i_bytes);
-  Kept::t_kept._lists[kind] = pBlock->_pNext;
-  pBlock->_kind = kind;
+    return TakeFromHeap(i_kind, i_bytes);
+  Kept::t_kept._lists[i_kind] = pBlock->_pNext;
+  pBlock->_kind = i_kind;
   return pBlock + 1;
 }
 
