@@ -203,12 +203,6 @@ TEST(ZELSYPRecycledBlocksTest, LargeBlocksGoBackToTheHeap)
   EXPECT_EQ(held, HeapRequests::GetHeld());
 }
 
-TEST(ZELSYPRecycledBlocksTest, WhatNoMachineHasIsNotGiven)
-{
-  EXPECT_EQ(nullptr, ZELSYPRecycledBlocks::Take(SIZE_MAX / 2));
-  EXPECT_EQ(nullptr, ZELSYPRecycledBlocks::Take(SIZE_MAX));
-}
-
 TEST(ZELSYPRecycledBlocksTest, ExtendedBlockKeepsItsContent)
 {
   void* pBlock = ZELSYPRecycledBlocks::Extend(nullptr, 0, 10);

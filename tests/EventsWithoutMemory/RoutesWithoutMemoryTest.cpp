@@ -1,9 +1,11 @@
 #include "AllocationFailures.h"
 #include "RecordingFailureHandler.h"
 #include "RouteWorld.h"
+#include "ZELSYPRecycledBlocks.h"
 
 #include <gmock/gmock.h>
 
+#include <cstdint>
 #include <new>
 #include <thread>
 
@@ -88,4 +90,11 @@ TEST_F(RoutesWithoutMemoryTest, StopThatFindsNoMemoryThrowsAndNothingIsKept)
       });
   EXPECT_EQ(references, CountReferences(pHandler));
   EXPECT_EQ(1, CountReferences(_leaf));
+}
+
+TEST_F(RoutesWithoutMemoryTest, BlockThatThereIsNoMemoryForIsNull)
+{
+  AllocationFailures refused;
+  EXPECT_EQ(nullptr, ZELSYPRecycledBlocks::Take(std::size_t{1} << 21));
+  EXPECT_EQ(nullptr, ZELSYPRecycledBlocks::Take(SIZE_MAX));
 }

@@ -3,34 +3,52 @@
 #include <cstdint>
 #include <cstring>
 #include <new>
+#include <pthread.h>
 
-// Plain data, so that it can be used before and after everything else of its thread.
+// The blocks of one thread.
 struct ZELSYPRecycledBlocks::Kept
 {
   // The last one is that of the blocks that are not kept: empty for ever.
-  Head* _lists[KindCount + 1];
-  bool _threadEnds;
+  Head* _lists[KindCount + 1] = {};
 
-  [[gnu::tls_model("initial-exec")]] static thread_local Kept t_kept;
+  // Null before the thread gave its first block back, and once it has ended.
+  [[gnu::tls_model("initial-exec")]] static thread_local Kept* t_pKept;
 
   static std::size_t BytesOf(std::size_t i_kind, std::size_t i_bytes) noexcept;
+  static Kept* New() noexcept;
 };
 
-[[gnu::tls_model("initial-exec")]] thread_local ZELSYPRecycledBlocks::Kept ZELSYPRecycledBlocks::Kept::t_kept;
+[[gnu::tls_model("initial-exec")]] thread_local ZELSYPRecycledBlocks::Kept* ZELSYPRecycledBlocks::Kept::t_pKept = nullptr;
 
+// Ends what a thread keeps when the thread ends. By a key of the system, which is given the blocks themselves: not every
+// platform destroys the objects of a thread before it frees their memory. Whatever comes later starts anew.
 struct ZELSYPRecycledBlocks::KeptUntilThreadEnds
 {
-  ~KeptUntilThreadEnds()
+  KeptUntilThreadEnds() noexcept { pthread_key_create(&_key, &End); }
+
+  static void End(void* i_pKept) noexcept
   {
-    Kept::t_kept._threadEnds = true;
-    for (Head*& pList : Kept::t_kept._lists)
+    Kept::t_pKept = nullptr;
+    Kept* const pKept = static_cast<Kept*>(i_pKept);
+    for (Head*& pList : pKept->_lists)
       while (Head* const pBlock = pList)
       {
         pList = pBlock->_pNext;
         ::operator delete(pBlock);
       }
+    delete pKept;
   }
+
+  pthread_key_t _key;
 };
+
+[[gnu::noinline]] ZELSYPRecycledBlocks::Kept* ZELSYPRecycledBlocks::Kept::New() noexcept
+{
+  static const KeptUntilThreadEnds s_ends;
+  t_pKept = new (std::nothrow) Kept;
+  pthread_setspecific(s_ends._key, t_pKept);
+  return t_pKept;
+}
 
 std::size_t ZELSYPRecycledBlocks::Kept::BytesOf(std::size_t i_kind, std::size_t i_bytes) noexcept
 {
@@ -41,18 +59,17 @@ std::size_t ZELSYPRecycledBlocks::Kept::BytesOf(std::size_t i_kind, std::size_t 
 
 void* ZELSYPRecycledBlocks::TakeOf(std::size_t i_kind, std::size_t i_bytes) noexcept
 {
-  Head* const pBlock = Kept::t_kept._lists[i_kind];
+  Kept* const pKept = Kept::t_pKept;
+  Head* const pBlock = pKept ? pKept->_lists[i_kind] : nullptr;
   if (!pBlock)
     return TakeFromHeap(i_kind, i_bytes);
-  Kept::t_kept._lists[i_kind] = pBlock->_pNext;
+  pKept->_lists[i_kind] = pBlock->_pNext;
   pBlock->_kind = i_kind;
   return pBlock + 1;
 }
 
 [[gnu::noinline]] void* ZELSYPRecycledBlocks::TakeFromHeap(std::size_t i_kind, std::size_t i_bytes) noexcept
 {
-  thread_local KeptUntilThreadEnds t_cleaner;
-  static_cast<void>(&t_cleaner);
   void* const pMemory = ::operator new(Kept::BytesOf(i_kind, i_bytes), std::nothrow);
   if (!pMemory)
     return nullptr;
@@ -74,8 +91,9 @@ void* ZELSYPRecycledBlocks::Extend(void* io_block, std::size_t i_used, std::size
 void ZELSYPRecycledBlocks::Keep(Head* i_pBlock) noexcept
 {
   const std::size_t kind = i_pBlock->_kind;
-  if (__builtin_expect(kind == NotKept || Kept::t_kept._threadEnds, false))
+  Kept* const pKept = Kept::t_pKept ? Kept::t_pKept : Kept::New();
+  if (__builtin_expect(kind == NotKept || !pKept, false))
     return ::operator delete(i_pBlock);
-  i_pBlock->_pNext = Kept::t_kept._lists[kind];
-  Kept::t_kept._lists[kind] = i_pBlock;
+  i_pBlock->_pNext = pKept->_lists[kind];
+  pKept->_lists[kind] = i_pBlock;
 }
