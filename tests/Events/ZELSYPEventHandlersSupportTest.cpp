@@ -296,7 +296,7 @@ TEST_F(ZELSYPEventHandlersSupportTest, HandlerThatDiesWithTheStoreMayTakeOthersO
   {
     ZELSYPEventHandlersSupport support;
     LoggingHandler* const pOther = Keep("other");
-    ZELSYPEventHandler* const pDying = new LastWords([&] { removed = support.RemoveHandler(_pUp, pOther); });
+    ZELSYPEventHandler* const pDying = new LastWords([&, pOther] { removed = support.RemoveHandler(_pUp, pOther); });
     support.AddHandler(_pUp, pDying, 0);
     support.AddHandler(_pUp, pOther, 0);
     pDying->Release();
