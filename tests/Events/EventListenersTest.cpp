@@ -111,7 +111,7 @@ protected:
 };
 
 typedef testing::Types<Simple, Command, Subscriber> Kinds;
-TYPED_TEST_SUITE(EventListenersTest, Kinds);
+TYPED_TEST_SUITE(EventListenersTest, Kinds, );
 } // namespace
 
 TYPED_TEST(EventListenersTest, FreshListenerDispatchesNothingToItsClassHandlersNeither)
