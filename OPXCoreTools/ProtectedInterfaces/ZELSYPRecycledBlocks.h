@@ -1,7 +1,8 @@
 // ZELSYPRecycledBlocks: memory that what was just destroyed gives back and what comes next takes again, without the heap.
 // void* pBlock = ZELSYPRecycledBlocks::Take(64); ... ZELSYPRecycledBlocks::GiveBack(pBlock);
 //
-// Each thread keeps the blocks that were given back on it, by powers of two, until it ends. Any thread.
+// Each thread keeps the blocks that were given back on it, by powers of two and up to 4 MiB of each, until it ends. Any
+// thread.
 #ifndef ZELSYPRecycledBlocks_H
 #define ZELSYPRecycledBlocks_H
 
@@ -35,11 +36,15 @@ private:
     LargestBits = 20,
     KindCount = LargestBits - SmallestBits + 1,
     NotKept = KindCount,
+    // Of each size. A thread that gives back what others take would keep ever more.
+    MostKeptBytes = std::size_t{4} << 20,
     NoBlock = ~static_cast<std::size_t>(0)
   };
   // Stands before the memory that is handed out.
   struct alignas(__STDCPP_DEFAULT_NEW_ALIGNMENT__) Head
   {
+    // While kept: the bytes of its list from here on.
+    std::size_t _keptBytes;
     // While handed out: which list takes the block back. While kept: the next one of its list.
     union
     {

@@ -212,10 +212,28 @@ TEST(ZELSYPRecycledBlocksTest, ExtendedBlockKeepsItsContent)
   ZELSYPRecycledBlocks::GiveBack(pBlock);
 }
 
-TEST(ZELSYPRecycledBlocksTest, BlockMayBeGivenBackOnAnotherThread)
+TEST(ZELSYPRecycledBlocksTest, ThreadThatOnlyGivesBlocksBackGivesThemToTheHeapAtItsEnd)
 {
   void* const pBlock = ZELSYPRecycledBlocks::Take(100);
   const long held = HeapRequests::GetHeld();
   std::thread([pBlock] { ZELSYPRecycledBlocks::GiveBack(pBlock); }).join();
-  EXPECT_GE(held, HeapRequests::GetHeld());
+  EXPECT_EQ(held - 1, HeapRequests::GetHeld());
+}
+
+TEST(ZELSYPRecycledBlocksTest, ThreadKeepsAtMostFourMegabytesOfASizeThatAnotherTakes)
+{
+  std::vector<void*> blocks;
+  for (int block = 0; block < 100; ++block)
+    blocks.push_back(ZELSYPRecycledBlocks::Take(500 << 10));
+  long freed = 0;
+  const auto giveBack = [&]
+  {
+    ZELSYPRecycledBlocks::GiveBack(ZELSYPRecycledBlocks::Take(1));
+    const long held = HeapRequests::GetHeld();
+    for (void* const pBlock : blocks)
+      ZELSYPRecycledBlocks::GiveBack(pBlock);
+    freed = held - HeapRequests::GetHeld();
+  };
+  std::thread(giveBack).join();
+  EXPECT_EQ(100 - 8, freed);
 }

@@ -94,6 +94,10 @@ void ZELSYPRecycledBlocks::Keep(Head* i_pBlock) noexcept
   Kept* const pKept = Kept::t_pKept ? Kept::t_pKept : Kept::New();
   if (__builtin_expect(kind == NotKept || !pKept, false))
     return ::operator delete(i_pBlock);
-  i_pBlock->_pNext = pKept->_lists[kind];
-  pKept->_lists[kind] = i_pBlock;
+  Head*& pList = pKept->_lists[kind];
+  i_pBlock->_keptBytes = (pList ? pList->_keptBytes : 0) + Kept::BytesOf(kind, 0);
+  if (__builtin_expect(i_pBlock->_keptBytes > MostKeptBytes, false))
+    return ::operator delete(i_pBlock);
+  i_pBlock->_pNext = pList;
+  pList = i_pBlock;
 }
