@@ -28,7 +28,8 @@ class ZELSYPArray
 
 public:
   ZELSYPArray() = default;
-  ZELSYPArray(const ZELSYPArray& i_other) { CopyFrom(i_other); }
+  // A copy of an element that throws leaves nothing behind.
+  ZELSYPArray(const ZELSYPArray& i_other) : ZELSYPArray() { CopyFrom(i_other); }
   ZELSYPArray& operator=(const ZELSYPArray& i_other);
   ~ZELSYPArray() { FreeBlock(); }
 

@@ -3,7 +3,7 @@
 //
 // The key functions are chosen by overload on K (ZELSYPHashMapFunctions.h) or given as template arguments. The map owns
 // its pairs: copies of keys and values, which stay where they are until they are removed. One thread at a time. Nothing
-// throws but what K and V throw.
+// throws but what K and V throw; a new key whose copy throws is not there then.
 #ifndef ZELSYPHashMap_H
 #define ZELSYPHashMap_H
 
@@ -60,6 +60,7 @@ private:
     return [&i_key](const void* i_elem) { return Comparator(i_key, AsPair(i_elem)->_key) != 0; };
   }
   int Add(int i_hash, const K& i_key, const V& i_value);
+  Pair* MakePair(const K& i_key, const V& i_value);
 
   ZELSysSimpleHashTable _table;
   ZELSYPHashMapPairs<Pair> _pairs;
@@ -115,8 +116,7 @@ int ZELSYPHashMap<K, V, Hasher, Comparator>::Set(const K& i_key, const V& i_valu
 template <class K, class V, auto Hasher, auto Comparator>
 int ZELSYPHashMap<K, V, Hasher, Comparator>::Add(int i_hash, const K& i_key, const V& i_value)
 {
-  void* const pMemory = _pairs.Take(static_cast<std::size_t>(GetSize()));
-  Pair* const pPair = pMemory ? ::new (pMemory) Pair{i_key, i_value} : nullptr;
+  Pair* const pPair = MakePair(i_key, i_value);
   if (pPair && _table.InsertHashed(i_hash, pPair))
     return 1;
   if (pPair)
@@ -126,6 +126,22 @@ int ZELSYPHashMap<K, V, Hasher, Comparator>::Add(int i_hash, const K& i_key, con
   }
   CheckFailure__("Failed to add the element", __FILE_NAME__, __LINE__, nullptr);
   return -1;
+}
+
+// Null: no memory.
+template <class K, class V, auto Hasher, auto Comparator>
+typename ZELSYPHashMap<K, V, Hasher, Comparator>::Pair* ZELSYPHashMap<K, V, Hasher, Comparator>::MakePair(const K& i_key, const V& i_value)
+{
+  void* const pMemory = _pairs.Take(static_cast<std::size_t>(GetSize()));
+  try
+  {
+    return pMemory ? ::new (pMemory) Pair{i_key, i_value} : nullptr;
+  }
+  catch (...)
+  {
+    _pairs.GiveBack(pMemory);
+    throw;
+  }
 }
 
 template <class K, class V, auto Hasher, auto Comparator>

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <memory>
 #include <random>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,37 @@ std::vector<T> ElementsOf(const ZELSYPArray<T>& i_array)
 {
   return std::vector<T>(i_array.begin(), i_array.end());
 }
+
+// Blocks of the heap, counted while they are held.
+struct CountedBlocks
+{
+  static void* Take(std::size_t i_bytes) noexcept
+  {
+    ++s_held;
+    return ZELSYPHeapBlocks::Take(i_bytes);
+  }
+  static void GiveBack(void* i_pBlock) noexcept
+  {
+    s_held -= i_pBlock != nullptr;
+    ZELSYPHeapBlocks::GiveBack(i_pBlock);
+  }
+  static inline int s_held = 0;
+};
+
+// The third copy that is made of it throws.
+struct CopiedTwice
+{
+  CopiedTwice() = default;
+  CopiedTwice(const CopiedTwice&)
+  {
+    if (++s_copies > 2)
+      throw std::runtime_error("no copy");
+  }
+  CopiedTwice(CopiedTwice&&) noexcept {}
+  CopiedTwice& operator=(const CopiedTwice&) = default;
+  ~CopiedTwice() {}
+  static inline int s_copies = 0;
+};
 } // namespace
 
 TEST(ZELSYPArrayTest, NewArrayHasNoElementAndNoRoom)
@@ -209,6 +241,21 @@ TEST(ZELSYPArrayTest, CopyIsDeepAndHasTheCapacityOfItsSource)
   EXPECT_EQ("a", source[0]);
   EXPECT_EQ(33, copy.GetCapacity());
   EXPECT_EQ(0, ZELSYPArray<std::string>(ZELSYPArray<std::string>()).GetCapacity());
+}
+
+TEST(ZELSYPArrayTest, CopyOfAnElementThatThrowsLeavesNoMemoryBehind)
+{
+  typedef ZELSYPArray<CopiedTwice, CountedBlocks> Array;
+  {
+    Array source;
+    for (int element = 0; element < 4; ++element)
+      source.Append(CopiedTwice());
+    EXPECT_EQ(1, CountedBlocks::s_held);
+    EXPECT_THROW(Array{source}, std::runtime_error);
+    EXPECT_EQ(3, CopiedTwice::s_copies);
+    EXPECT_EQ(1, CountedBlocks::s_held);
+  }
+  EXPECT_EQ(0, CountedBlocks::s_held);
 }
 
 TEST(ZELSYPArrayTest, AssignmentReplacesElementsAndCapacity)

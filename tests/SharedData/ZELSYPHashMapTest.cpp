@@ -10,6 +10,7 @@
 #include <limits>
 #include <memory>
 #include <random>
+#include <stdexcept>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -50,6 +51,19 @@ int SameLastDigit(const int& i_key1, const int& i_key2)
 {
   return i_key1 % 10 == i_key2 % 10 ? 1 : 0;
 }
+
+// A copy of one whose number is below 0 throws.
+struct Fragile
+{
+  explicit Fragile(int i_number) : _number(i_number) {}
+  Fragile(const Fragile& i_other) : _number(i_other._number)
+  {
+    if (_number < 0)
+      throw std::runtime_error("no copy");
+  }
+  Fragile& operator=(const Fragile&) = default;
+  int _number;
+};
 
 void* Address(std::uintptr_t i_number)
 {
@@ -253,6 +267,31 @@ TEST(ZELSYPHashMapTest, SetWithoutMemoryInTheTableReportsAndFreesThePair)
   EXPECT_EQ(0, map.GetSize());
   EXPECT_EQ(1, map.Set(&key, value));
   EXPECT_EQ(value, *map.Locate(&key));
+}
+
+TEST(ZELSYPHashMapTest, MemoryOfARemovedPairIsTakenAgain)
+{
+  AddressMap map;
+  map.Set(Address(1), 1);
+  map.Remove(Address(1));
+  const AllocationFailures refused;
+  for (int time = 0; time < 1000; ++time)
+  {
+    ASSERT_EQ(1, map.Set(Address(1), time));
+    ASSERT_EQ(1, map.Remove(Address(1)));
+  }
+}
+
+TEST(ZELSYPHashMapTest, CopyOfAValueThatThrowsLeavesTheMapAndItsMemoryAsTheyWere)
+{
+  ZELSYPHashMap<void*, Fragile> map;
+  map.Set(Address(1), Fragile(1));
+  map.Remove(Address(1));
+  EXPECT_THROW(map.Set(Address(1), Fragile(-1)), std::runtime_error);
+  EXPECT_EQ(0, map.GetSize());
+  EXPECT_EQ(nullptr, map.Locate(Address(1)));
+  const AllocationFailures refused;
+  EXPECT_EQ(1, map.Set(Address(1), Fragile(2)));
 }
 
 TEST(ZELSYPHashMapTest, SetThatFindsNoMemoryAtAnySizeLeavesTheMapAsItWas)
