@@ -66,27 +66,18 @@ private:
   ZELSYPHashMapPairs<Pair> _pairs;
 };
 
-// Walks the pairs, in the order in which their keys came while none was removed. A map that changes on the way is
-// reported as ZELSYPHashMapBaseIterator says, and no pair is answered any more; the walk is not done then, and is to be
-// left. The map must outlive it.
+// Walks the pairs, in the order in which their keys came while none was removed. A map whose size changes on the way is
+// reported as ZELSYPHashMapBaseIterator says, and no pair is answered while it has another size; the walk is not done
+// then, and is to be left. As many removals as new keys are not noticed: the walk goes on over what the map has now, and
+// may miss a pair or meet one twice. The map must outlive it.
 template <class K, class V, auto Hasher, auto Comparator>
 class ZELSYPHashMap<K, V, Hasher, Comparator>::Iterator : public ZELSYPHashMapBaseIterator
 {
 public:
   explicit Iterator(const ZELSYPHashMap& i_map) : ZELSYPHashMapBaseIterator(i_map._table) {}
 
-  void Next()
-  {
-    _pPair = nullptr;
-    ZELSYPHashMapBaseIterator::Next();
-  }
   // The pair at the current position, its key, its value; null where there is none.
-  Pair* CurrentItem()
-  {
-    if (!_pPair || _pHashTable->Size() != _size)
-      _pPair = static_cast<Pair*>(const_cast<void*>(InternalCurrentItem()));
-    return _pPair;
-  }
+  Pair* CurrentItem() { return static_cast<Pair*>(const_cast<void*>(InternalCurrentItem())); }
   const K* GetKey()
   {
     Pair* const pPair = CurrentItem();
@@ -97,9 +88,6 @@ public:
     Pair* const pPair = CurrentItem();
     return pPair ? &pPair->_value : nullptr;
   }
-
-private:
-  Pair* _pPair = nullptr;
 };
 
 template <class K, class V, auto Hasher, auto Comparator>

@@ -397,6 +397,47 @@ TEST(ZELSYPHashMapTest, WalkNeverAnswersARemovedPair)
   EXPECT_THAT(failures.GetMessages(), ElementsAre("boolean _pHashTable->Size() == _size is FALSE"));
 }
 
+TEST(ZELSYPHashMapTest, WalkOverAMapOfTheSameSizeAnswersThePairThatStandsThereNow)
+{
+  RecordingFailureHandler failures;
+  AddressMap map;
+  map.Set(Address(1), 10);
+  AddressMap::Iterator it(map);
+  EXPECT_EQ(Address(1), *it.GetKey());
+  map.Remove(Address(1));
+  map.Set(Address(2), 20);
+  EXPECT_EQ(Address(2), *it.GetKey());
+  EXPECT_EQ(20, *it.GetValue());
+  EXPECT_THAT(failures.GetMessages(), IsEmpty());
+}
+
+TEST(ZELSYPHashMapTest, WalkOverRemainingPairsNeverAnswersOneThatIsGone)
+{
+  AddressMap map;
+  for (std::uintptr_t key = 0; key < 3; ++key)
+    map.Set(Address(key), 0);
+  AddressMap::Iterator it(map);
+  EXPECT_EQ(Address(0), *it.GetKey());
+  map.Remove(Address(0));
+  map.Set(Address(9), 9);
+  std::vector<void*> keys;
+  for (; !it.IsDone(); it.Next())
+    keys.push_back(*it.GetKey());
+  EXPECT_THAT(keys, ElementsAre(Address(2), Address(1), Address(9)));
+}
+
+TEST(ZELSYPHashMapTest, WalkOverAMapThatWasFilledAnewAnswersTheNewPairs)
+{
+  ZELSYPHashMap<ZELString, std::string> map;
+  map.Set("old", "a value that is long enough for the heap");
+  ZELSYPHashMap<ZELString, std::string>::Iterator it(map);
+  EXPECT_STREQ("old", it.GetKey()->GetText());
+  map.RemoveAll();
+  map.Set("new", "another value that is long enough for the heap");
+  EXPECT_STREQ("new", it.GetKey()->GetText());
+  EXPECT_EQ("another value that is long enough for the heap", *it.GetValue());
+}
+
 TEST(ZELSYPHashMapTest, ReplacingAValueDoesNotDisturbTheWalk)
 {
   RecordingFailureHandler failures;
