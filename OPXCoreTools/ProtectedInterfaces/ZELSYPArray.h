@@ -3,7 +3,7 @@
 //
 // Appending doubles the room: capacities run 1, 4, 10, 22, 46, ... The room never shrinks by itself. A copy is deep. One
 // thread at a time. Nothing throws but T's own operations. Elements that only travel are moved, not copied, and a move
-// must not throw.
+// must not throw. An element that must be aligned to more than 16 bytes does not compile.
 //
 // Blocks is where the room comes from (ZELSYPHeapBlocks.h says what it must offer).
 #ifndef ZELSYPArray_H
@@ -36,8 +36,8 @@ public:
   int GetLength() const noexcept { return _length; }
   int GetCapacity() const noexcept { return _capacity; }
 
-  // 1: a copy of the element, which may stand in this array, is the last one now. 0: no memory, "plNewArray"; the array
-  // is as it was.
+  // 1: the element, which may stand in this array, is copied or moved to the end. 0: no memory, "plNewArray"; the array has
+  // the elements it had and records the capacity it asked for, and an element that was to be moved is gone.
   int Append(const T& i_element) { return AppendFrom(i_element); }
   int Append(T&& i_element) { return AppendFrom(std::move(i_element)); }
   // Makes room for i_capacity elements. Not above the length: "i_capacity > _length", and nothing changes. No memory:
@@ -48,6 +48,18 @@ public:
   // back, which must outlive it, before it takes a block.
   template <class Room>
   void UseRoom(Room& io_room);
+
+  // The capacity that a full array of that length grows to.
+  static constexpr int CapacityAbove(int i_length) noexcept
+  {
+    return i_length == 0 ? 1 : i_length < INT_MAX / 2 ? 2 * (i_length + 1) : INT_MAX;
+  }
+  // The bytes of that many elements. Too many to count: the largest block there is, which no heap has.
+  static constexpr std::size_t BytesOf(int i_capacity) noexcept
+  {
+    const std::size_t count = static_cast<std::size_t>(i_capacity);
+    return count > SIZE_MAX / sizeof(T) ? SIZE_MAX : count * sizeof(T);
+  }
 
   // The element at i_index (0 to GetLength() - 1), valid until the array changes. For any other index
   // "(i_index>=0 && i_index<_length)" and a spare element that no index reaches.
@@ -130,7 +142,7 @@ template <class T, class Blocks>
 inline void ZELSYPArray<T, Blocks>::GrowForOneMore()
 {
   if (_length >= _capacity)
-    _capacity = _length == 0 ? 1 : _length < INT_MAX / 2 ? 2 * (_length + 1) : INT_MAX;
+    _capacity = CapacityAbove(_length);
   MoveToNewBlock();
 }
 
@@ -227,14 +239,13 @@ void ZELSYPArray<T, Blocks>::FreeBlock()
 
 // A block with room for i_capacity elements in place of i_block, and the elements in it; null: no memory, and i_block
 // stands as it was. Elements that travel as bytes may find themselves where they were: the heap extends a block when it
-// can. A size that overflows asks for the largest block there is, so that the allocation fails.
+// can.
 //
 // Static, and never inlined: an array whose address nobody takes stays in registers while a loop appends to it.
 template <class T, class Blocks>
 __attribute__((noinline)) T* ZELSYPArray<T, Blocks>::MovedToNewBlock(T* io_block, int i_length, int i_capacity)
 {
-  const std::size_t count = static_cast<std::size_t>(i_capacity);
-  const std::size_t bytes = count > SIZE_MAX / sizeof(T) ? SIZE_MAX : count * sizeof(T);
+  const std::size_t bytes = BytesOf(i_capacity);
   if constexpr (ZELTravelsAsBytes<T>::value)
     return static_cast<T*>(Blocks::Extend(io_block, static_cast<std::size_t>(i_length) * sizeof(T), bytes));
   T* const newBlock = static_cast<T*>(Blocks::Take(bytes));

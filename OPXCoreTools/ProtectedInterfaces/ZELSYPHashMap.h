@@ -3,7 +3,8 @@
 //
 // The key functions are chosen by overload on K (ZELSYPHashMapFunctions.h) or given as template arguments. The map owns
 // its pairs: copies of keys and values, which stay where they are until they are removed. One thread at a time. Nothing
-// throws but what K and V throw; a new key whose copy throws is not there then.
+// throws but what K and V throw; a new key whose copy throws is not there then. A key or value that must
+// be aligned to more than 16 bytes does not compile.
 #ifndef ZELSYPHashMap_H
 #define ZELSYPHashMap_H
 

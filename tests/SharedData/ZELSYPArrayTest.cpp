@@ -7,6 +7,8 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <climits>
+#include <cstdint>
 #include <memory>
 #include <random>
 #include <stdexcept>
@@ -88,6 +90,24 @@ TEST(ZELSYPArrayTest, CapacitiesRunOneFourTenTwentyTwoFortySix)
   }
   EXPECT_THAT(capacities, ElementsAre(1, 4, 10, 22, 46));
   EXPECT_EQ(46, array.GetLength());
+}
+
+TEST(ZELSYPArrayTest, CapacityIsNeverAboveTheLargestInteger)
+{
+  EXPECT_EQ(INT_MAX - 1, ZELSYPArray<int>::CapacityAbove(INT_MAX / 2 - 1));
+  EXPECT_EQ(INT_MAX, ZELSYPArray<int>::CapacityAbove(INT_MAX / 2));
+  EXPECT_EQ(INT_MAX, ZELSYPArray<int>::CapacityAbove(INT_MAX - 1));
+}
+
+TEST(ZELSYPArrayTest, SizeThatOverflowsIsThatOfTheLargestBlock)
+{
+  struct Huge
+  {
+    char _bytes[std::size_t{1} << 34];
+  };
+  EXPECT_EQ(SIZE_MAX, ZELSYPArray<Huge>::BytesOf(INT_MAX));
+  EXPECT_EQ(std::size_t{1} << 63, ZELSYPArray<Huge>::BytesOf(1 << 29));
+  EXPECT_EQ(std::size_t{4} * INT_MAX, ZELSYPArray<int>::BytesOf(INT_MAX));
 }
 
 TEST(ZELSYPArrayTest, ElementsKeepTheirOrderThroughEveryGrowth)
@@ -389,6 +409,21 @@ TEST(ZELSYPArrayTest, FirstAppendWithoutMemoryLeavesTheArrayEmpty)
   EXPECT_THAT(failures.GetMessages(), ElementsAre("pointer plNewArray is NULL"));
 }
 
+TEST(ZELSYPArrayTest, ElementThatWasToBeMovedIsGoneWithoutMemory)
+{
+  RecordingFailureHandler failures;
+  ZELSYPArray<Handle> array = ArrayOf<Handle>({nullptr});
+  Handle handle = std::make_shared<int>(1);
+  {
+    AllocationFailures refused;
+    EXPECT_EQ(0, array.Append(std::move(handle)));
+  }
+  EXPECT_EQ(nullptr, handle);
+  EXPECT_EQ(1, array.GetLength());
+  EXPECT_EQ(4, array.GetCapacity());
+  EXPECT_THAT(failures.GetMessages(), ElementsAre("pointer plNewArray is NULL"));
+}
+
 TEST(ZELSYPArrayTest, CopyWithoutMemoryIsReportedAndEmpty)
 {
   RecordingFailureHandler failures;
@@ -400,6 +435,7 @@ TEST(ZELSYPArrayTest, CopyWithoutMemoryIsReportedAndEmpty)
   }
   EXPECT_THAT(failures.GetMessages(), ElementsAre("pointer plNewArray is NULL"));
   EXPECT_EQ(0, target.GetLength());
+  EXPECT_EQ(4, target.GetCapacity());
   EXPECT_EQ(1, target.Append(3));
   EXPECT_THAT(ElementsOf(target), ElementsAre(3));
 }

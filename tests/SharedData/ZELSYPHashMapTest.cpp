@@ -65,6 +65,17 @@ struct Fragile
   int _number;
 };
 
+// Notes its number where it is told to when it is destroyed.
+struct Mortal
+{
+  Mortal(int i_number, std::vector<int>* i_pDead) : _number(i_number), _pDead(i_pDead) {}
+  Mortal(const Mortal&) = default;
+  Mortal& operator=(const Mortal&) = default;
+  ~Mortal() { _pDead->push_back(_number); }
+  int _number;
+  std::vector<int>* _pDead;
+};
+
 void* Address(std::uintptr_t i_number)
 {
   return reinterpret_cast<void*>(i_number * 16);
@@ -135,6 +146,22 @@ TEST(ZELSYPHashMapTest, RemoveAllEmptiesTheMapForNewKeys)
   EXPECT_EQ(nullptr, map.Locate(Address(5)));
   EXPECT_EQ(1, map.Set(Address(5), 50));
   EXPECT_THAT(ValuesOf(map), ElementsAre(50));
+}
+
+TEST(ZELSYPHashMapTest, RemoveAllDestroysThePairsInTheOrderOfTheWalk)
+{
+  std::vector<int> dead;
+  ZELSYPHashMap<void*, Mortal> map;
+  for (int key = 0; key < 20; ++key)
+    map.Set(Address(static_cast<std::uintptr_t>(key)), Mortal(key, &dead));
+  map.Remove(Address(1));
+  std::vector<int> walked;
+  for (ZELSYPHashMap<void*, Mortal>::Iterator it(map); !it.IsDone(); it.Next())
+    walked.push_back(it.GetValue()->_number);
+  dead.clear();
+  map.RemoveAll();
+  EXPECT_EQ(walked, dead);
+  EXPECT_THAT(dead, testing::SizeIs(19));
 }
 
 TEST(ZELSYPHashMapTest, KeysAndValuesAreCopiedAndDestroyedWithTheirPairs)
