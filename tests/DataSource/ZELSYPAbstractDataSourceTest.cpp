@@ -12,9 +12,11 @@
 #include <gmock/gmock.h>
 
 #include <cstddef>
+#include <cstdio>
 #include <cstring>
 #include <functional>
 #include <set>
+#include <string>
 #include <thread>
 #include <vector>
 
@@ -60,6 +62,15 @@ void ExpectEvent(ZELSYPEvent* i_pEvent, const std::string& i_name, ZELMetaClass*
   EXPECT_EQ(i_pEvent->GetPropagation(), ZELSYPEvent::NoPropagation);
   EXPECT_EQ(i_pEvent->GetArgumentType(), i_pArgumentType);
   EXPECT_EQ(i_pEvent->GetOwnerClass(), ZELSYPAbstractDataSource::MetaObject());
+}
+
+// Takes again, and writes to, what memory of small objects was given back.
+std::vector<std::string> OverwriteFreeMemory()
+{
+  std::vector<std::string> taken;
+  for (std::size_t size = 8; size < 256; size += 8)
+    taken.insert(taken.end(), 8, std::string(size, 'x'));
+  return taken;
 }
 } // namespace
 
@@ -143,6 +154,31 @@ TEST(ZELSYPAbstractDataSourceTest, ThreadsThatAskTogetherForTheFirstTimeGetTheSa
 {
   const ChildResult result = ChildProcess::Self("MakeEventsOnManyThreads").Run();
   EXPECT_TRUE(result.Succeeded()) << result;
+}
+
+// A data source that goes when the program does, after what the program made later.
+OPX_CHILD_ENTRY(AskForTheEventsAtExit)
+{
+  struct LateSource : ZELSYPAbstractDataSource
+  {
+    ~LateSource() override
+    {
+      const std::vector<std::string> taken = OverwriteFreeMemory();
+      for (const ZELSYPEvent* const pEvent : {ModelChanged(), SelectionChanged(), ViewUpdated()})
+        std::printf("%s of %s\n", pEvent->GetName(), pEvent->GetOwnerClass()->GetName());
+    }
+  };
+  static const LateSource s_source;
+  return ZELSYPAbstractDataSource::ModelChanged() ? 0 : 1;
+}
+
+TEST(ZELSYPAbstractDataSourceTest, ItsEventsCanBeAskedForUntilTheVeryEndOfTheProgram)
+{
+  const ChildResult result = ChildProcess::Self("AskForTheEventsAtExit").Run();
+  EXPECT_TRUE(result.Succeeded()) << result;
+  EXPECT_EQ(result.out, "ModelChanged of ZELSYPAbstractDataSource\n"
+                        "SelectionChanged of ZELSYPAbstractDataSource\n"
+                        "ViewUpdated of ZELSYPAbstractDataSource\n");
 }
 
 TEST(ZELSYPAbstractDataSourceTest, WithoutAFactoryThereIsNoEvent)

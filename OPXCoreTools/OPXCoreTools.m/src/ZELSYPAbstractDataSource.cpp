@@ -13,13 +13,21 @@ namespace Records = ZELSYPDataSourceParameters;
 
 ZELImplementClass(ZELSYPAbstractDataSource, ZELSYPEventSubscriberEventListener, OPXCoreTools);
 
+// Each with a reference that is never given back: a static object that was made before the factory goes after it, and may
+// still ask for its events then.
 struct ZELSYPAbstractDataSource::Events
 {
-  ZELSYPEvent* const pModelChanged =
-      DeclareEvent(GetEventFactory(), "ModelChanged", ZELSYPModelChangedEventArgs::MetaObject(), MetaObject());
-  ZELSYPEvent* const pSelectionChanged =
-      DeclareEvent(GetEventFactory(), "SelectionChanged", ZELSYPSelectionChangedEventArgs::MetaObject(), MetaObject());
-  ZELSYPEvent* const pViewUpdated = DeclareEvent(GetEventFactory(), "ViewUpdated", ZELSYPViewUpdatedEventArgs::MetaObject(), MetaObject());
+  ZELSYPEvent* const pModelChanged = Declare("ModelChanged", ZELSYPModelChangedEventArgs::MetaObject());
+  ZELSYPEvent* const pSelectionChanged = Declare("SelectionChanged", ZELSYPSelectionChangedEventArgs::MetaObject());
+  ZELSYPEvent* const pViewUpdated = Declare("ViewUpdated", ZELSYPViewUpdatedEventArgs::MetaObject());
+
+  static ZELSYPEvent* Declare(const char* i_name, ZELMetaClass* i_pArgumentType)
+  {
+    ZELSYPEvent* const pEvent = DeclareEvent(GetEventFactory(), i_name, i_pArgumentType, MetaObject());
+    if (pEvent)
+      pEvent->AddRef();
+    return pEvent;
+  }
 };
 
 ZELSYPAbstractDataSource::ZELSYPAbstractDataSource() = default;
