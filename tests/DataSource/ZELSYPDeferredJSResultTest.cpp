@@ -188,6 +188,31 @@ TEST_F(ZELSYPDeferredJSResultTest, AnExceptionInPlaceOfTheCompletionIsAFailure)
   EXPECT_TRUE(result.GetValue().value.is_null());
 }
 
+TEST_F(ZELSYPDeferredJSResultTest, AnExceptionOfAnyTypeInPlaceOfTheCompletionIsAFailure)
+{
+  call.completion.set_exception(std::make_exception_ptr(42));
+  EXPECT_NO_THROW(EXPECT_FALSE(result.HasValue()));
+  call.error.set_value({"TypeError", "", ""});
+  EXPECT_TRUE(result.HasError());
+  EXPECT_EQ(result.GetError().name, "TypeError");
+}
+
+TEST_F(ZELSYPDeferredJSResultTest, AnExceptionOfAnyTypeInPlaceOfTheValueIsADefaultOne)
+{
+  call.value.set_exception(std::make_exception_ptr(42));
+  call.completion.set_value(true);
+  EXPECT_NO_THROW(EXPECT_TRUE(result.GetValue().value.is_null()));
+  EXPECT_TRUE(result.HasValue());
+}
+
+TEST_F(ZELSYPDeferredJSResultTest, AnExceptionOfAnyTypeInPlaceOfTheErrorIsADefaultOne)
+{
+  call.error.set_exception(std::make_exception_ptr(42));
+  call.completion.set_value(false);
+  EXPECT_NO_THROW(EXPECT_TRUE(IsDefault(result.GetError())));
+  EXPECT_TRUE(result.HasError());
+}
+
 TEST_F(ZELSYPDeferredJSResultTest, MovingTakesOverTheFutures)
 {
   ZELSYPDeferredJSResult moved(std::move(result));

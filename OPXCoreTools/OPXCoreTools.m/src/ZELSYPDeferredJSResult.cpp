@@ -1,7 +1,6 @@
 #include "ZELSYPDeferredJSResult.h"
 
 #include <chrono>
-#include <exception>
 #include <utility>
 
 namespace
@@ -12,7 +11,7 @@ bool IsReady(const std::future<Result>& i_future)
   return i_future.valid() && i_future.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
 }
 
-// A default result when there is none to be had at once.
+// A default result when there is none to be had at once, whatever stands in its place.
 template <class Result>
 Result Take(std::future<Result>& io_future)
 {
@@ -20,7 +19,7 @@ Result Take(std::future<Result>& io_future)
   {
     return IsReady(io_future) ? io_future.get() : Result();
   }
-  catch (const std::exception&)
+  catch (...)
   {
     return Result();
   }
