@@ -1,8 +1,9 @@
 // ZELSYPDispatchObserver: while one lives, it is told of every handler that a dispatch comes to.
 // class Log : public ZELSYPDispatchObserver { void HandlerRuns(const Step& i_step) override { ... } ... };
 //
-// Several may live at once; the one made last is told first. None lives: one predicted branch a stop is all it costs.
-// UI thread only.
+// Several may live at once; the one made last is told first. What is told to one may destroy it or any other, which is
+// then told nothing more, and make another, which is told from the next step on; what it throws goes through the dispatch.
+// None lives: one predicted branch a handler is all it costs. UI thread only.
 #ifndef ZELSYPDispatchObserver_H
 #define ZELSYPDispatchObserver_H
 

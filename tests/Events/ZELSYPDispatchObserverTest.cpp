@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 
+#include <functional>
 #include <memory>
 #include <stdexcept>
 
@@ -31,6 +32,22 @@ private:
 
   std::vector<std::string>& _notes;
   const std::string _prefix;
+};
+
+// Does something once, when it is told of a handler that runs.
+class Acts : public ZELSYPDispatchObserver
+{
+public:
+  explicit Acts(std::function<void()> i_act) : _act(std::move(i_act)) {}
+
+private:
+  void HandlerRuns(const Step&) override
+  {
+    if (const std::function<void()> act = std::exchange(_act, nullptr))
+      act();
+  }
+
+  std::function<void()> _act;
 };
 
 class ZELSYPDispatchObserverTest : public testing::Test, protected RouteWorld
@@ -86,4 +103,78 @@ TEST_F(ZELSYPDispatchObserverTest, HandlerThatThrowsHasNotRun)
   const Notes observer(_notes, "");
   EXPECT_THROW(Raise(*_leaf), std::runtime_error);
   EXPECT_THAT(_notes, ElementsAre("runs throws at Button 0/0"));
+}
+
+TEST_F(ZELSYPDispatchObserverTest, MayDestroyTheOneThatIsToldNext)
+{
+  Listen(*_leaf, "leaf");
+  const Notes first(_notes, "1 ");
+  auto pSecond = std::make_unique<Notes>(_notes, "2 ");
+  const Acts last([&] { pSecond = nullptr; });
+  Raise(*_leaf);
+  EXPECT_THAT(_notes, ElementsAre("1 runs leaf at Button 0/0", "1 ran leaf at Button 0/0"));
+}
+
+TEST_F(ZELSYPDispatchObserverTest, MayDestroyAllThatAreToldAfterIt)
+{
+  Listen(*_leaf, "leaf");
+  auto pFirst = std::make_unique<Notes>(_notes, "1 ");
+  auto pSecond = std::make_unique<Notes>(_notes, "2 ");
+  const Acts last(
+      [&]
+      {
+        pSecond = nullptr;
+        pFirst = nullptr;
+      });
+  Raise(*_leaf);
+  EXPECT_THAT(_notes, IsEmpty());
+  EXPECT_THAT(_log, ElementsAre("leaf"));
+}
+
+TEST_F(ZELSYPDispatchObserverTest, MayDestroyItself)
+{
+  Listen(*_leaf, "leaf");
+  const Notes first(_notes, "");
+  std::unique_ptr<Acts> pLast;
+  pLast = std::make_unique<Acts>([&] { pLast = nullptr; });
+  Raise(*_leaf);
+  EXPECT_THAT(_notes, ElementsAre("runs leaf at Button 0/0", "ran leaf at Button 0/0"));
+  EXPECT_EQ(pLast, nullptr);
+}
+
+TEST_F(ZELSYPDispatchObserverTest, MayMakeAnotherOneWhichIsToldFromTheNextStepOn)
+{
+  Listen(*_leaf, "leaf");
+  std::unique_ptr<Notes> pNew;
+  const Acts first([&] { pNew = std::make_unique<Notes>(_notes, ""); });
+  Raise(*_leaf);
+  EXPECT_THAT(_notes, ElementsAre("ran leaf at Button 0/0"));
+}
+
+TEST_F(ZELSYPDispatchObserverTest, MayDestroyInADispatchOfItsOwnTheOneThatTheOuterOneComesToNext)
+{
+  Listen(*_leaf, "leaf");
+  const Notes first(_notes, "1 ");
+  auto pSecond = std::make_unique<Notes>(_notes, "2 ");
+  std::unique_ptr<Acts> pInner;
+  const Acts last(
+      [&]
+      {
+        pInner = std::make_unique<Acts>([&] { pSecond = nullptr; });
+        Raise(*_leaf);
+      });
+  Raise(*_leaf);
+  EXPECT_THAT(_notes, ElementsAre("1 runs leaf at Button 0/0", "1 ran leaf at Button 0/0", "1 runs leaf at Button 0/0",
+                                  "1 ran leaf at Button 0/0"));
+}
+
+TEST_F(ZELSYPDispatchObserverTest, WhatItThrowsGoesThroughTheDispatchAndTheNextOneIsToldAsEver)
+{
+  Listen(*_leaf, "leaf");
+  const Notes first(_notes, "");
+  const Acts last([] { throw std::runtime_error("no"); });
+  EXPECT_THROW(Raise(*_leaf), std::runtime_error);
+  EXPECT_THAT(_log, IsEmpty());
+  Raise(*_leaf);
+  EXPECT_THAT(_notes, ElementsAre("runs leaf at Button 0/0", "ran leaf at Button 0/0"));
 }
