@@ -25,6 +25,8 @@ public:
     int _index;
     ZELSYPEventHandlerInfo& _info;
     ZELSYPEventArgs& _args;
+    // Before the handler ran.
+    bool _wasConsumed;
   };
 
   ZELSYPDispatchObserver(const ZELSYPDispatchObserver&) = delete;

@@ -14,10 +14,10 @@
 #include "ZELSYPEventPathElt.h"
 
 #include <functional>
+#include <memory>
 #include <sstream>
 #include <string>
 #include <utility>
-#include <vector>
 
 class ZELSYPDispatchTracer final : public ZELSYPDispatchObserver
 {
@@ -30,45 +30,50 @@ public:
     JSON
   };
 
-  // i_write takes each line, without an end of line. It is not told of what it dispatches itself.
+  // i_write takes each line, without an end of line. It is not told of what it dispatches itself, and may destroy the
+  // tracer. What it throws goes through the dispatch; it gets the next line all the same.
   explicit ZELSYPDispatchTracer(std::function<void(const std::string&)> i_write, Format i_format = Format::Text)
-      : _write(std::move(i_write)), _format(i_format)
+      : _pOutput(std::make_shared<Output>(std::move(i_write))), _format(i_format)
   {
   }
 
 private:
-  void HandlerRuns(const Step& i_step) override
+  class Output
   {
-    _running.emplace_back(&i_step._args, i_step._args.IsConsumed() != 0);
-    Write("runs", i_step);
-  }
+  public:
+    explicit Output(std::function<void(const std::string&)> i_write) : _write(std::move(i_write)) {}
+    bool IsFree() const { return _write && !_isWriting; }
+    void Write(const std::string& i_line)
+    {
+      struct End
+      {
+        ~End() { _isWriting = false; }
+        bool& _isWriting;
+      };
+      _isWriting = true;
+      const End end{_isWriting};
+      _write(i_line);
+    }
+
+  private:
+    const std::function<void(const std::string&)> _write;
+    bool _isWriting = false;
+  };
+
+  void HandlerRuns(const Step& i_step) override { Write("runs", i_step); }
   void HandlerRan(const Step& i_step) override
   {
-    if (!WasConsumedBefore(i_step._args) && i_step._args.IsConsumed())
+    if (!i_step._wasConsumed && i_step._args.IsConsumed())
       Write("consumes", i_step);
   }
   void HandlerSkipped(const Step& i_step) override { Write("passed over", i_step); }
 
-  // What stood above it was left by an exception. A handler that was running when the tracer was made is not there.
-  bool WasConsumedBefore(const ZELSYPEventArgs& i_args)
+  // The output is held meanwhile: it may destroy the tracer.
+  void Write(const char* i_what, const Step& i_step) const
   {
-    while (!_running.empty())
-    {
-      const auto [pArgs, wasConsumed] = _running.back();
-      _running.pop_back();
-      if (pArgs == &i_args)
-        return wasConsumed;
-    }
-    return true;
-  }
-  void Write(const char* i_what, const Step& i_step)
-  {
-    if (!_isWriting && _write)
-    {
-      _isWriting = true;
-      _write(_format == Format::Text ? AsText(i_what, i_step) : AsJSON(i_what, i_step));
-      _isWriting = false;
-    }
+    const std::shared_ptr<Output> pOutput = _pOutput;
+    if (pOutput->IsFree())
+      pOutput->Write(_format == Format::Text ? AsText(i_what, i_step) : AsJSON(i_what, i_step));
   }
 
   static std::string AsText(const char* i_what, const Step& i_step)
@@ -89,8 +94,8 @@ private:
   }
   static std::string NameOfEvent(const Step& i_step)
   {
-    const ZELSYPEvent& event = *i_step._args.GetEvent();
-    return std::string(event.GetOwnerClass()->GetName()) + "." + event.GetName();
+    const ZELSYPEvent* const pEvent = i_step._args.GetEvent();
+    return pEvent ? std::string(pEvent->GetOwnerClass()->GetName()) + "." + pEvent->GetName() : "no event";
   }
   static std::string NameOf(const ZELBaseUnknown* i_pObject)
   {
@@ -99,10 +104,8 @@ private:
     return name.str();
   }
 
-  const std::function<void(const std::string&)> _write;
+  const std::shared_ptr<Output> _pOutput;
   const Format _format;
-  std::vector<std::pair<const ZELSYPEventArgs*, bool>> _running;
-  bool _isWriting = false;
 };
 
 #endif

@@ -150,3 +150,73 @@ TEST_F(ZELSYPDispatchTracerTest, IsNotToldOfWhatItsWriterRaises)
   EXPECT_EQ(written, 1);
   EXPECT_THAT(runs.Take(), SizeIs(2));
 }
+
+TEST_F(ZELSYPDispatchTracerTest, MayBeDestroyedByItsWriter)
+{
+  std::optional<ZELSYPDispatchTracer> tracer;
+  std::string line;
+  const auto pOwned = std::make_shared<std::string>("written");
+  tracer.emplace(
+      [&, pOwned](const std::string&)
+      {
+        tracer.reset();
+        line = *pOwned;
+      });
+  listener.AddHandler(Opened(), runs.Note("first"), 0);
+  listener.AddHandler(Opened(), runs.Note("second"), 0);
+  Raise(listener);
+  EXPECT_EQ(line, "written");
+  EXPECT_EQ(pOwned.use_count(), 1);
+  EXPECT_THAT(runs.Take(), ElementsAre("first", "second"));
+}
+
+TEST_F(ZELSYPDispatchTracerTest, WritesOnAfterItsWriterHasThrown)
+{
+  listener.AddHandler(Opened(), runs.Note("handler"), 0);
+  int written = 0;
+  const ZELSYPDispatchTracer tracer(
+      [&](const std::string&)
+      {
+        if (++written == 1)
+          throw 7;
+      });
+  EXPECT_THROW(Raise(listener), int);
+  EXPECT_THAT(runs.Take(), IsEmpty());
+  Raise(listener);
+  EXPECT_EQ(written, 2);
+  EXPECT_THAT(runs.Take(), ElementsAre("handler"));
+}
+
+TEST_F(ZELSYPDispatchTracerTest, SaysWhoConsumesWhenANestedHandlerHasThrown)
+{
+  listener.AddHandler(Opened(),
+                      ZELSYPMakeHandler(
+                          [&](ZELSYPEventArgs* i_pArgs)
+                          {
+                            EXPECT_THROW(RaiseNumber(listener, 1), int);
+                            i_pArgs->Consume();
+                          }),
+                      0);
+  listener.AddHandler(Counted(), ZELSYPMakeHandler([](ZELSYPEventArgs*) { throw 7; }), 0);
+  const ZELSYPDispatchTracer tracer(Writing());
+  Raise(listener);
+  EXPECT_THAT(lines, ElementsAre("runs Listener.Opened at Listener, list 0, position 0: ZELSYPEventHandler",
+                                 "runs Listener.Counted at Listener, list 0, position 0: ZELSYPEventHandler",
+                                 "consumes Listener.Opened at Listener, list 0, position 0: ZELSYPEventHandler"));
+}
+
+TEST_F(ZELSYPDispatchTracerTest, WritesThatThereIsNoEventWhereTheArgumentsHaveNone)
+{
+  ZELSYPEventHandlerInfoList list;
+  list.AddHandler(runs.Note("handler"), 0);
+  ZELSYPEventPathElt stop{ZELBaseUnknown_var(&listener)};
+  stop.AddList(list);
+  ZELSYPEventArgs args(nullptr);
+  const ZELSYPDispatchTracer text(Writing());
+  const ZELSYPDispatchTracer json(Writing(), ZELSYPDispatchTracer::Format::JSON);
+  stop.Dispatch(&args);
+  EXPECT_THAT(lines,
+              ElementsAre(R"({"step":"runs","event":"no event","node":"Listener","list":0,"position":0,"handler":"ZELSYPEventHandler"})",
+                          "runs no event at Listener, list 0, position 0: ZELSYPEventHandler"));
+  EXPECT_THAT(runs.Take(), ElementsAre("handler"));
+}

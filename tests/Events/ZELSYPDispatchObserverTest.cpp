@@ -178,3 +178,21 @@ TEST_F(ZELSYPDispatchObserverTest, WhatItThrowsGoesThroughTheDispatchAndTheNextO
   Raise(*_leaf);
   EXPECT_THAT(_notes, ElementsAre("runs leaf at Button 0/0", "ran leaf at Button 0/0"));
 }
+
+TEST_F(ZELSYPDispatchObserverTest, IsToldWhetherTheArgumentsWereConsumedBefore)
+{
+  class Before : public ZELSYPDispatchObserver
+  {
+  public:
+    std::vector<bool> _before;
+
+  private:
+    void HandlerRan(const Step& i_step) override { _before.push_back(i_step._wasConsumed); }
+    void HandlerSkipped(const Step& i_step) override { _before.push_back(i_step._wasConsumed); }
+  };
+  Listen(*_leaf, "consumes", [](ZELBaseUnknown*, ZELSYPEventArgs* i_pArgs) { i_pArgs->Consume(); });
+  Listen(*_leaf, "passed over");
+  Before observer;
+  Raise(*_leaf);
+  EXPECT_THAT(observer._before, ElementsAre(false, true));
+}

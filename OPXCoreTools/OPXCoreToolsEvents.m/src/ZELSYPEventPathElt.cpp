@@ -47,7 +47,7 @@ inline bool ZELSYPEventPathElt::RunList(int i_list, ZELSYPEventArgs& io_args) co
 
 void ZELSYPEventPathElt::RunObserved(int i_list, int i_index, ZELSYPEventHandlerInfo& i_info, ZELSYPEventArgs& io_args) const
 {
-  const ZELSYPDispatchObserver::Step step{*this, i_list, i_index, i_info, io_args};
+  const ZELSYPDispatchObserver::Step step{*this, i_list, i_index, i_info, io_args, io_args.IsConsumed() != 0};
   if (!MayRun(i_info, io_args))
     return ZELSYPDispatchObserver::Tell(&ZELSYPDispatchObserver::HandlerSkipped, step);
   ZELSYPDispatchObserver::Tell(&ZELSYPDispatchObserver::HandlerRuns, step);
