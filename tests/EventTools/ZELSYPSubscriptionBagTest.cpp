@@ -1,6 +1,7 @@
 #include "ZELSYPSubscriptionBag.h"
 
 #include "EventWorld.h"
+#include "ZELSYPMakeWeakHandler.h"
 #include "ZELSYPSubscribe.h"
 
 #include <gmock/gmock.h>
@@ -100,4 +101,52 @@ TEST_F(ZELSYPSubscriptionBagTest, ForgetsSubscriptionsWhoseListenerHasGone)
   EXPECT_THAT(bag.GetSize(), Le(8u));
   Raise(listener);
   EXPECT_THAT(runs.Take(), ElementsAre("kept"));
+}
+
+TEST_F(ZELSYPSubscriptionBagTest, MayGoWithWhatItEnds)
+{
+  struct Owner
+  {
+    ZELSYPSubscriptionBag bag;
+  };
+  auto pOwner = std::make_shared<Owner>();
+  const std::weak_ptr<Owner> pWatch = pOwner;
+  ZELSYPSubscriptionBag& bag = pOwner->bag;
+  bag += SubscribeWithFarewell("first");
+  bag += ZELSYPSubscribe(listener, Opened(), [pOwner](ZELSYPEventArgs*) {});
+  bag += SubscribeWithFarewell("last");
+  pOwner.reset();
+  bag.EndAll();
+  EXPECT_TRUE(pWatch.expired());
+  EXPECT_THAT(runs.Take(), ElementsAre("last", "first"));
+}
+
+TEST_F(ZELSYPSubscriptionBagTest, KeepsTheOrderOfThoseThatAreLeftWhenOthersAreForgotten)
+{
+  ZELSYPSubscriptionBag bag;
+  for (int round = 0; round < 20; ++round)
+  {
+    bag += ZELSYPSubscribe(*std::make_unique<Listener>(), Opened(), runs.Adding("gone"));
+    if (round % 5 == 0)
+      bag += SubscribeWithFarewell(std::to_string(round));
+  }
+  EXPECT_THAT(runs.Take(), IsEmpty());
+  bag.EndAll();
+  EXPECT_THAT(runs.Take(), ElementsAre("15", "10", "5", "0"));
+}
+
+TEST_F(ZELSYPSubscriptionBagTest, TakesWhatIsAddedByWhatItForgets)
+{
+  ZELSYPSubscriptionBag bag;
+  const auto addAnother = [&](void*) { bag += ZELSYPSubscribe(listener, Opened(), runs.Adding("late")); };
+  {
+    ZELSYPWeakTarget gone;
+    bag += ZELSYPSubscribe(listener, Opened(),
+                           ZELSYPMakeWeakHandler(gone, [p = std::shared_ptr<void>(nullptr, addAnother)](ZELSYPEventArgs*) {}));
+  }
+  for (int round = 0; round < 10; ++round)
+    bag += ZELSYPSubscribe(listener, Counted(), runs.Adding("other"));
+  Raise(listener);
+  EXPECT_THAT(runs.Take(), ElementsAre("late"));
+  EXPECT_EQ(bag.GetSize(), 11u);
 }
