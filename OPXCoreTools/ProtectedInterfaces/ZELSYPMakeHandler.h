@@ -11,6 +11,7 @@
 #include "ZELSYPEventArgs.h"
 #include "ZELSYPEventHandler.h"
 
+#include <functional>
 #include <type_traits>
 #include <utility>
 
@@ -47,9 +48,14 @@ private:
   Callable _callable;
 };
 
+template <class Callable>
+constexpr bool ZELSYP_IS_STD_FUNCTION = false;
+template <class Signature>
+constexpr bool ZELSYP_IS_STD_FUNCTION<std::function<Signature>> = true;
+
 // The handle holds the only reference; a store takes one of its own. The callable is moved (copied when it is an lvalue).
 // A handler, or a handle to one, is answered as it is, so that whoever takes "a handler or a callable" needs no second
-// form. A null function pointer: "i_callable", and a null handle; a null handler: a null handle.
+// form. A null function pointer or an empty std::function: "i_callable", and a null handle; a null handler: a null handle.
 template <class Args = ZELSYPEventArgs, class Callable>
 ZELHandle<ZELSYPEventHandler> ZELSYPMakeHandler(Callable&& i_callable)
 {
@@ -58,7 +64,7 @@ ZELHandle<ZELSYPEventHandler> ZELSYPMakeHandler(Callable&& i_callable)
     return ZELHandle<ZELSYPEventHandler>(static_cast<ZELSYPEventHandler*>(i_callable));
   else
   {
-    if constexpr (std::is_pointer_v<std::remove_reference_t<Callable>>)
+    if constexpr (std::is_pointer_v<std::remove_reference_t<Callable>> || ZELSYP_IS_STD_FUNCTION<Decayed>)
       if (!ZELSYP_CHECK_POINTER(i_callable))
         return {};
     return ZELHandle<ZELSYPEventHandler>::Adopt(new ZELSYPCallableHandler<Args, Decayed>(std::forward<Callable>(i_callable)));

@@ -18,9 +18,12 @@ public:
   }
 
   // Gives the handler up before it runs, so that it is done for all that happens meanwhile, and goes when it has run.
+  // Arguments that are not of its class, or null, are the handler's to refuse, and leave it its turn.
   void Handle(ZELBaseUnknown* i_pNode, ZELSYPEventArgs* i_pArgs) override
   {
-    const ZELHandle<ZELSYPEventHandler> spHandler = std::exchange(_spHandler, ZELHandle<ZELSYPEventHandler>());
+    const ZELHandle<ZELSYPEventHandler> spHandler = _spHandler;
+    if (i_pArgs && i_pArgs->IsAKindOf(_pArgumentsClass))
+      _spHandler = nullptr;
     if (spHandler)
       spHandler->Handle(i_pNode, i_pArgs);
   }

@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 
+#include <functional>
 #include <memory>
 
 using testing::ElementsAre;
@@ -110,6 +111,24 @@ TEST(ZELSYPMakeHandler, RefusesANullFunction)
   void (*const pNone)(ZELSYPEventArgs*) = nullptr;
   EXPECT_FALSE(ZELSYPMakeHandler(pNone));
   EXPECT_THAT(failures.GetMessages(), ElementsAre("pointer i_callable is NULL"));
+}
+
+TEST(ZELSYPMakeHandler, RefusesAnEmptyFunctionObject)
+{
+  RecordingFailureHandler failures;
+  const std::function<void(ZELSYPEventArgs*)> none;
+  EXPECT_FALSE(ZELSYPMakeHandler(none));
+  EXPECT_FALSE(ZELSYPMakeHandler(std::function<void(ZELBaseUnknown*, ZELSYPEventArgs*)>()));
+  EXPECT_THAT(failures.GetMessages(), ElementsAre("pointer i_callable is NULL", "pointer i_callable is NULL"));
+}
+
+TEST(ZELSYPMakeHandler, CallsAFunctionObject)
+{
+  NumberArgs args(Counted(), 5);
+  int number = 0;
+  const std::function<void(NumberArgs*)> callable = [&](NumberArgs* i_pArgs) { number = i_pArgs->GetNumber(); };
+  ZELSYPMakeHandler<NumberArgs>(callable)->Handle(nullptr, &args);
+  EXPECT_EQ(number, 5);
 }
 
 TEST(ZELSYPMakeHandler, AnswersANullHandleForANullHandler)

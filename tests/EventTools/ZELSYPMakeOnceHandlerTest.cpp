@@ -104,6 +104,21 @@ TEST_F(ZELSYPMakeOnceHandlerTest, KeepsItsTurnWhileTheArgumentsAreConsumed)
   EXPECT_THAT(runs.Take(), ElementsAre("once"));
 }
 
+TEST_F(ZELSYPMakeOnceHandlerTest, KeepsItsTurnWhenTheHandlerRefusesTheArguments)
+{
+  RecordingFailureHandler failures;
+  const auto spOnce = ZELSYPMakeOnceHandler<NumberArgs>([&](NumberArgs*) { runs.Add("once"); });
+  ZELSYPEventArgs foreign(Opened());
+  spOnce->Handle(&listener, nullptr);
+  spOnce->Handle(&listener, &foreign);
+  EXPECT_THAT(failures.GetMessages(), ElementsAre("pointer i_pArgs is NULL", "boolean i_pArgs->IsAKindOf(Args::MetaObject()) is FALSE"));
+  EXPECT_EQ(spOnce->MustBeRemoved(), 0);
+  NumberArgs args(Counted(), 1);
+  spOnce->Handle(&listener, &args);
+  spOnce->Handle(&listener, &args);
+  EXPECT_THAT(runs.Take(), ElementsAre("once"));
+}
+
 TEST_F(ZELSYPMakeOnceHandlerTest, HasTheArgumentsClassOfWhatItRuns)
 {
   const auto spOnce = ZELSYPMakeOnceHandler<NumberArgs>([](NumberArgs*) {});
