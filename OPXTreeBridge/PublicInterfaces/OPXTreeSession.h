@@ -39,14 +39,15 @@ public:
   // Success callbacks that wait for the view: one more, and the oldest is given up.
   static constexpr std::size_t MaxAwaited = 1000;
 
-  // Takes one message for the view: one line of valid UTF-8 without its end. It throws nothing. It may call the session, but not destroy
-  // it.
+  // Takes one message for the view: one line of valid UTF-8 without its end. It may call the session, but not destroy it. It
+  // throws nothing; if it does all the same, its message counts as sent, and the session serves on.
   using Output = std::function<void(const std::string& i_message)>;
 
   // Without an output the source's events stay unheard, and a request that the source does not answer at once is an error.
   // Source and rows are borrowed: no message is given to the session once they have gone, but source and session may go
   // in either order. When the session goes, it hears no event any more, late answers are sent nowhere, and success
-  // callbacks that still wait go with it, uncalled. Session, source and output belong to one thread at a time.
+  // callbacks that still wait go with it, uncalled. What the session calls (the source, the rows, a success callback) may
+  // call the session, but not destroy it. Session, source and output belong to one thread at a time.
   OPXTreeSession(ZELSYPAbstractDataSource& i_source, OPXTreeRowsSource& i_rows, Output i_output = nullptr);
   // For a source that has its rows itself.
   template <class Source>

@@ -11,6 +11,7 @@
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <stdexcept>
+#include <utility>
 
 using nlohmann::json;
 using testing::ElementsAre;
@@ -27,6 +28,15 @@ protected:
   OPXTreeSession::Output Output()
   {
     return [this](const std::string& i_message) { sent.push_back(i_message); };
+  }
+  OPXTreeSession::Output OutputThatThrowsFirst()
+  {
+    return [this, isFirst = true](const std::string& i_message) mutable
+    {
+      if (std::exchange(isFirst, false))
+        throw std::runtime_error("closed");
+      sent.push_back(i_message);
+    };
   }
   RaisingSource::SuccessCallback Remember()
   {
@@ -341,4 +351,22 @@ TEST_F(OPXTreeSessionEventsTest, AViewThatAnswersFromWithinTheOutputKeepsTheOrde
   const std::string done = R"({"jsonrpc":"2.0","id":"view","result":null})";
   EXPECT_THAT(sent, ElementsAre(structureAnswer, told + R"(1,"transactions":1}})", told + R"(2,"transactions":2}})", done, done,
                                 told + R"(3,"transactions":3}})", done));
+}
+
+TEST_F(OPXTreeSessionEventsTest, AnOutputThatThrowsDoesNotSilenceTheSession)
+{
+  session.emplace(source, OutputThatThrowsFirst());
+  EXPECT_THROW(source.RaiseSelection({"a"}), std::runtime_error);
+  source.RaiseSelection({"b"});
+  session->Receive(structure);
+  EXPECT_THAT(sent, ElementsAre(ToldSelection("b"), structureAnswer));
+}
+
+TEST_F(OPXTreeSessionEventsTest, WhatWaitsBehindAMessageWhoseOutputThrowsIsSentWithTheNext)
+{
+  session.emplace(source, OutputThatThrowsFirst());
+  source.whenAsked = [&] { source.RaiseSelection({"a"}); };
+  EXPECT_THROW(session->Receive(structure), std::runtime_error);
+  source.RaiseSelection({"b"});
+  EXPECT_THAT(sent, ElementsAre(ToldSelection("a"), ToldSelection("b")));
 }

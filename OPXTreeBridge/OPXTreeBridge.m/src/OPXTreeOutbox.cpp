@@ -3,6 +3,22 @@
 #include <cstddef>
 #include <utility>
 
+namespace
+{
+// Counts what is under way, until it is over or left by an exception.
+class UnderWay
+{
+public:
+  explicit UnderWay(int& io_count) : _count(++io_count) {}
+  ~UnderWay() { --_count; }
+  UnderWay(const UnderWay&) = delete;
+  UnderWay& operator=(const UnderWay&) = delete;
+
+private:
+  int& _count;
+};
+} // namespace
+
 OPXTreeOutbox::OPXTreeOutbox(OPXTreeSession::Output i_output) : _output(std::move(i_output)) {}
 
 void OPXTreeOutbox::Send(std::string i_message)
@@ -15,20 +31,24 @@ void OPXTreeOutbox::Send(std::string i_message)
 void OPXTreeOutbox::SendInAnswer(const std::function<std::string()>& i_makeAnswer)
 {
   const std::size_t place = _messages.size();
-  ++_answersInTheMaking;
-  std::string answer = i_makeAnswer();
-  --_answersInTheMaking;
+  std::string answer = MakeAnswer(i_makeAnswer);
   if (!answer.empty())
     _messages.insert(_messages.begin() + static_cast<std::ptrdiff_t>(place), std::move(answer));
   SendAll();
 }
 
+std::string OPXTreeOutbox::MakeAnswer(const std::function<std::string()>& i_makeAnswer)
+{
+  const UnderWay making(_answersInTheMaking);
+  return i_makeAnswer();
+}
+
 // An output that calls the session comes here again; what that adds is sent by the loop that is under way.
 void OPXTreeOutbox::SendAll()
 {
-  if (_isSending || _answersInTheMaking > 0)
+  if (_sending > 0 || _answersInTheMaking > 0)
     return;
-  _isSending = true;
+  const UnderWay sending(_sending);
   while (!_messages.empty())
   {
     const std::string message = std::move(_messages.front());
@@ -36,5 +56,4 @@ void OPXTreeOutbox::SendAll()
     if (_output)
       _output(message);
   }
-  _isSending = false;
 }

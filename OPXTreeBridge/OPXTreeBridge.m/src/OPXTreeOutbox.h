@@ -18,16 +18,17 @@ public:
   bool HasOutput() const { return static_cast<bool>(_output); }
   // Sends a message now, or after the answer that is being made or the message that is being sent. An empty one is none.
   void Send(std::string i_message);
-  // Sends what i_makeAnswer returns, and then what was to be sent while it ran. It throws nothing.
+  // Sends what i_makeAnswer returns, and then what was to be sent while it ran. When it throws, that waits for the next call.
   void SendInAnswer(const std::function<std::string()>& i_makeAnswer);
 
 private:
+  std::string MakeAnswer(const std::function<std::string()>& i_makeAnswer);
   void SendAll();
 
   const OPXTreeSession::Output _output;
   std::deque<std::string> _messages;
   int _answersInTheMaking = 0;
-  bool _isSending = false;
+  int _sending = 0;
 };
 
 #endif
