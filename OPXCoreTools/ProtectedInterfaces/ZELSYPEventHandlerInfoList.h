@@ -37,15 +37,16 @@ public:
   // "i_index is out of range".
   ZELSYPEventHandlerInfo* Get(int i_index) const;
 
-  // Puts the registration at the end, with a reference on it. Null: "i_pHandlerInfo", and nothing changes.
+  // Puts the registration at the end, with a reference on it. Null: "i_pHandlerInfo", and nothing changes. Nor does anything
+  // change when a write finds no memory: "_pSharedData".
   void Add(ZELSYPEventHandlerInfo* i_pHandlerInfo);
   // The same with a new registration that only this list holds. A handler may stand in a list any number of times. Null:
   // "i_pHandler", and nothing changes.
   void AddHandler(ZELSYPEventHandler* i_pHandler, int i_handleConsumedEvents);
   // Takes the registration out; later ones move down. A bad index reports as in Get, and nothing changes.
   void Remove(int i_index);
-  // Takes out every registration whose handler answers MustBeRemoved, from the last to the first. A registration without
-  // handler ends the walk: "pHandler".
+  // Takes out every registration whose handler answers MustBeRemoved, from the last to the first; they are released once
+  // all were asked. A registration without handler ends the walk: "pHandler".
   void AutoRemove();
 
 protected:
@@ -59,6 +60,9 @@ private:
   ZELSYPEventHandlerInfo* const* begin() const noexcept { return _pSharedData ? _pSharedData->_handlers.begin() : nullptr; }
   ZELSYPEventHandlerInfo* const* end() const noexcept { return _pSharedData ? _pSharedData->_handlers.end() : nullptr; }
 
+  // The same; what is taken out lives as long as io_removed, since the end of a handler may run code that destroys this list.
+  void AutoRemove(ZELSYPEventHandlerInfoList& io_removed);
+  void RemoveInto(ZELSYPEventHandlerInfoList& io_removed, int i_index, ZELSYPEventHandlerInfo* i_pInfo);
   bool HasInfoAt(int i_index) const;
   bool UpdateDataForModification();
 };

@@ -26,8 +26,8 @@ public:
 
 protected:
   friend class ZELSYPEventHandlerInfoList;
-  // Puts the registration at the end, with a reference more on it; without memory nothing changes.
-  void Append(ZELSYPEventHandlerInfo* i_pInfo);
+  // Puts the registration at the end, with a reference more on it; without memory nothing changes, and false.
+  bool Append(ZELSYPEventHandlerInfo* i_pInfo);
 
 private:
   // For a list of one, which most are.

@@ -6,6 +6,8 @@
 
 #include <gmock/gmock.h>
 
+#include <thread>
+
 using testing::ElementsAre;
 
 TEST(EventsWithoutMemoryTest, EventIsRefusedAndReportedWhenItsClassCannotBeKept)
@@ -51,7 +53,7 @@ TEST(EventsWithoutMemoryTest, RegistrationIsNotTakenWhenThereIsNoPayload)
   EXPECT_EQ(1, CountReferences(info.Get()));
 }
 
-TEST(EventsWithoutMemoryTest, WriteToASharedListThatCannotBeCopiedLeavesTheOtherOneWhole)
+TEST(EventsWithoutMemoryTest, WriteToASharedListThatCannotBeCopiedLeavesBothWhole)
 {
   RecordingFailureHandler failures;
   const auto handler = CountedHandler::New();
@@ -64,7 +66,33 @@ TEST(EventsWithoutMemoryTest, WriteToASharedListThatCannotBeCopiedLeavesTheOther
   }
   EXPECT_THAT(failures.GetMessages(), ElementsAre("pointer _pSharedData is NULL"));
   EXPECT_EQ(1, snapshot.GetSize());
+  EXPECT_EQ(1, list.GetSize());
   EXPECT_EQ(2, CountReferences(handler.Get()));
+}
+
+TEST(EventsWithoutMemoryTest, HandlersThatCannotBePrunedStayUntilTheyCan)
+{
+  RecordingFailureHandler failures;
+  const auto handler = CountedHandler::New(1);
+  // On a thread of its own, which ends with the blocks that it keeps.
+  std::thread(
+      [&]
+      {
+        ZELSYPEventHandlerInfoList list;
+        list.AddHandler(handler.Get(), 0);
+        list.AddHandler(handler.Get(), 0);
+        const ZELSYPEventHandlerInfoList snapshot(list);
+        {
+          AllocationFailures refused;
+          list.AutoRemove();
+        }
+        EXPECT_EQ(2, list.GetSize());
+        list.AutoRemove();
+        EXPECT_EQ(0, list.GetSize());
+        EXPECT_EQ(2, snapshot.GetSize());
+      })
+      .join();
+  EXPECT_THAT(failures.GetMessages(), ElementsAre("pointer _pSharedData is NULL", "pointer _pSharedData is NULL"));
 }
 
 TEST(EventsWithoutMemoryTest, RegistrationThatFindsNoRoomIsNotHeld)

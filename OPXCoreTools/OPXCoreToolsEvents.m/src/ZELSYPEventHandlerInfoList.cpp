@@ -38,17 +38,34 @@ void ZELSYPEventHandlerInfoList::Remove(int i_index)
 
 void ZELSYPEventHandlerInfoList::AutoRemove()
 {
-  for (int index = GetSize() - 1; index >= 0; --index)
+  ZELSYPEventHandlerInfoList removed;
+  AutoRemove(removed);
+}
+
+void ZELSYPEventHandlerInfoList::AutoRemove(ZELSYPEventHandlerInfoList& io_removed)
+{
+  for (int index = GetSize() - 1; index >= 0 && _pSharedData; --index)
   {
-    const ZELSYPEventHandlerInfo* const pInfo = _pSharedData->_handlers[index];
+    ZELSYPEventHandlerInfo* const pInfo = _pSharedData->_handlers[index];
     if (!ZELSYP_CHECK_POINTER(pInfo))
       return;
     ZELSYPEventHandler* const pHandler = pInfo->GetHandler();
     if (!ZELSYP_CHECK_POINTER(pHandler))
       return;
     if (__builtin_expect(pHandler->MustBeRemoved() != 0, false))
-      Remove(index);
+      RemoveInto(io_removed, index, pInfo);
   }
+}
+
+// Without memory to hold it there, the registration stays.
+void ZELSYPEventHandlerInfoList::RemoveInto(ZELSYPEventHandlerInfoList& io_removed, int i_index, ZELSYPEventHandlerInfo* i_pInfo)
+{
+  if (i_index >= GetSize() || begin()[i_index] != i_pInfo)
+    return;
+  const int held = io_removed.GetSize();
+  io_removed.Add(i_pInfo);
+  if (io_removed.GetSize() > held)
+    Remove(i_index);
 }
 
 bool ZELSYPEventHandlerInfoList::HasInfoAt(int i_index) const
@@ -57,9 +74,16 @@ bool ZELSYPEventHandlerInfoList::HasInfoAt(int i_index) const
          ZELSYP_CHECK_TRUE_DETAILS(i_index >= 0 && i_index < _pSharedData->_handlers.GetLength(), "i_index is out of range");
 }
 
+// A clone that finds no memory has given up the reference on what is shared: the list keeps one more until there is a clone.
 bool ZELSYPEventHandlerInfoList::UpdateDataForModification()
 {
+  ZELSYPEventHandlerInfoList before;
+  if (_pSharedData && _pSharedData->_refcount > 1)
+    before = *this;
   _pSharedData = _pSharedData ? static_cast<ZELSYPEventHandlerInfoListData*>(_pSharedData->CloneIfShared())
                               : new (std::nothrow) ZELSYPEventHandlerInfoListData;
-  return ZELSYP_CHECK_POINTER(_pSharedData);
+  const bool isUpdated = _pSharedData;
+  if (!isUpdated)
+    std::swap(_pSharedData, before._pSharedData);
+  return ZELSYP_CHECK_REPORT(isUpdated, Check_Pointer_Failed__, "_pSharedData", __LINE__, nullptr);
 }

@@ -29,13 +29,18 @@ ZELSYPEventHandlerInfoListData* ZELSYPEventHandlerInfoListData::Clone()
     return nullptr;
   pClone->_handlers.SetCapacity(_handlers.GetCapacity());
   for (ZELSYPEventHandlerInfo* const pInfo : _handlers)
-    if (IsInfo(pInfo))
-      pClone->Append(pInfo);
+    if (IsInfo(pInfo) && !pClone->Append(pInfo))
+    {
+      pClone->Detach();
+      return nullptr;
+    }
   return pClone;
 }
 
-void ZELSYPEventHandlerInfoListData::Append(ZELSYPEventHandlerInfo* i_pInfo)
+bool ZELSYPEventHandlerInfoListData::Append(ZELSYPEventHandlerInfo* i_pInfo)
 {
-  if (_handlers.Append(i_pInfo))
-    i_pInfo->AddRef();
+  if (!_handlers.Append(i_pInfo))
+    return false;
+  i_pInfo->AddRef();
+  return true;
 }
