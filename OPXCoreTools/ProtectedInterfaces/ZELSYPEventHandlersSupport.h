@@ -6,6 +6,7 @@
 #define ZELSYPEventHandlersSupport_H
 
 #include "OPXCoreToolsExport.h"
+#include "ZELSYPArray.h"
 #include "ZELSYPEventHandlerInfoList.h"
 #include "ZELSYPHashMap.h"
 
@@ -24,7 +25,8 @@ public:
   // 1: the handler stands last in the event's list, and is held. Registered twice, it runs twice.
   // 0, and nothing is stored: no event ("i_pEvent"), no handler ("i_pHandler"), a handler without an arguments class
   // ("pHandlerArgumentsClass"), an event without an argument type ("pEventArgumentsClass"), or a handler whose arguments
-  // class the event's argument type is not a kind of ("The handler expects argument of type ..."); no memory ("pList").
+  // class the event's argument type is not a kind of ("The handler expects argument of type ..."); no memory, or a
+  // store that is being destroyed ("pList").
   // i_handleConsumedEvents other than 0: the handler also runs once the arguments are consumed.
   int AddHandler(ZELSYPEvent* i_pEvent, ZELSYPEventHandler* i_pHandler, int i_handleConsumedEvents);
   // 1: the first registration of this very handler is taken out. 0: there is none; no event ("i_pEvent"); no handler
@@ -45,16 +47,17 @@ protected:
 
 private:
   friend class ZELSYPSupportsEventPathBuilder;
+  typedef ZELSYPArray<ZELSYPEventHandlerInfoList> Lists;
 
   ZELSYPEventHandlerInfoList* FindOrAddList(ZELSYPEvent* i_pEvent);
   void StoreList(ZELSYPEvent* i_pEvent, const ZELSYPEventHandlerInfoList& i_list);
   static void ReleaseEvent(ZELSYPEvent& io_event);
-  // The stored list once it is pruned, or null.
-  ZELSYPEventHandlerInfoList* FindPrunedList(ZELSYPEvent* i_pEvent)
+  // The stored list once it is pruned, or null. It stands while io_removed, which what is pruned lives as long as, does.
+  ZELSYPEventHandlerInfoList* FindPrunedList(ZELSYPEvent* i_pEvent, ZELSYPEventHandlerInfoList& io_removed)
   {
     ZELSYPEventHandlerInfoList* const pList = FindList(i_pEvent);
     if (pList)
-      pList->AutoRemove();
+      pList->AutoRemove(io_removed);
     return pList;
   }
   // Most often the event is the one that was asked for last.
@@ -68,10 +71,12 @@ private:
     return _pLastList;
   }
   void CopyFrom(const ZELSYPEventHandlersSupport& i_support);
-  void Clear();
+  void Clear(Lists& o_lists);
 
   ZELSYPEvent* _pLastEvent = nullptr;
   ZELSYPEventHandlerInfoList* _pLastList = nullptr;
+  // A handler that dies with the store can add none any more.
+  bool _isGoing = false;
 };
 
 #endif

@@ -42,7 +42,7 @@ private:
   static void AddList(Element& io_pElement, const ZELSYPEventArgs& i_args, ZELBaseUnknown& i_node,
                       const ZELSYPEventHandlerInfoList* i_pList);
   static void AddClassLists(Element& io_pElement, ZELSYPEventArgs& io_args, ZELBaseUnknown& i_node,
-                            ZELSYPClassEventHandlersSupport& io_classSupport);
+                            ZELSYPClassEventHandlersSupport& io_classSupport, ZELSYPEventHandlerInfoList& io_removed);
 };
 
 #endif

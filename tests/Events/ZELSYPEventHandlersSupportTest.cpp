@@ -272,22 +272,75 @@ TEST_F(ZELSYPEventHandlersSupportTest, EntryThatCannotBeReadAsTheStoreChangesIsR
   pSupport->_eventHandlers.Set(nullptr, ZELSYPEventHandlerInfoList());
   pSupport->AddHandler(_pUp, Keep("handler"), 0);
   std::vector<std::string> messages;
-  MeddlingFailureHandler::While([&, pRaw = pSupport.get()] { pRaw->_eventHandlers.Set(_pDown, ZELSYPEventHandlerInfoList()); }, [&] { pSupport = nullptr; },
-                                messages);
+  MeddlingFailureHandler::While([&, pRaw = pSupport.get()] { pRaw->_eventHandlers.Set(_pDown, ZELSYPEventHandlerInfoList()); },
+                                [&] { pSupport = nullptr; }, messages);
   EXPECT_THAT(messages, ElementsAre("pointer pEntry->key is NULL", "boolean _pHashTable->Size() == _size is FALSE",
                                     "boolean _pHashTable->Size() == _size is FALSE", "pointer pEntry is NULL"));
   _pUp->Release();
 }
 
-TEST_F(ZELSYPEventHandlersSupportTest, HandlerThatAddsItselfAgainWhileTheStoreIsReplacedIsReported)
+TEST_F(ZELSYPEventHandlersSupportTest, HandlerThatAddsAnotherOneAsItIsReplacedFindsTheStoreReplaced)
 {
   ZELSYPEventHandler* const pDying = new LastWords([&] { _support.AddHandler(_pHere, Keep("again"), 0); });
   _support.AddHandler(_pUp, pDying, 0);
   pDying->Release();
   _support.ReplaceHandlers(ZELSYPEventHandlersSupport());
-  EXPECT_THAT(_failures.GetMessages(), ElementsAre("boolean _eventHandlers.GetSize() == 0 is FALSE",
-                                                   "boolean _eventHandlers.GetSize() == i_support._eventHandlers.GetSize() is FALSE"));
+  EXPECT_THAT(_failures.GetMessages(), IsEmpty());
   EXPECT_THAT(NamesIn(_support.GetHandlersList(_pHere)), ElementsAre("again"));
+}
+
+TEST_F(ZELSYPEventHandlersSupportTest, HandlerThatIsReplacedMayDestroyTheStoreThatTakesItsPlace)
+{
+  auto pOther = std::make_unique<ZELSYPEventHandlersSupport>();
+  pOther->AddHandler(_pUp, Keep("other"), 0);
+  ZELSYPEventHandler* const pDying = new LastWords([&] { pOther = nullptr; });
+  _support.AddHandler(_pUp, pDying, 0);
+  pDying->Release();
+  _support.ReplaceHandlers(*pOther);
+  EXPECT_EQ(nullptr, pOther);
+  EXPECT_THAT(Names(), ElementsAre("other"));
+  EXPECT_THAT(_failures.GetMessages(), IsEmpty());
+}
+
+TEST_F(ZELSYPEventHandlersSupportTest, HandlerThatIsPrunedMayReplaceTheHandlersOfItsStore)
+{
+  ZELSYPEventHandlersSupport other;
+  auto* const pDying = new LastWords([&] { _support.ReplaceHandlers(other); });
+  pDying->_mustBeRemoved = 1;
+  _support.AddHandler(_pUp, pDying, 0);
+  _support.AddHandler(_pUp, Keep("stays"), 0);
+  pDying->Release();
+  EXPECT_THAT(Names(), ElementsAre("stays"));
+  EXPECT_THAT(Names(), IsEmpty());
+  EXPECT_THAT(_failures.GetMessages(), IsEmpty());
+}
+
+TEST_F(ZELSYPEventHandlersSupportTest, HandlerThatIsPrunedMayDestroyItsStore)
+{
+  auto pSupport = std::make_unique<ZELSYPEventHandlersSupport>();
+  auto* const pDying = new LastWords([&] { pSupport = nullptr; });
+  pDying->_mustBeRemoved = 1;
+  pSupport->AddHandler(_pUp, pDying, 0);
+  pSupport->AddHandler(_pUp, Keep("stays"), 0);
+  pDying->Release();
+  EXPECT_THAT(NamesIn(pSupport->GetHandlersList(_pUp)), ElementsAre("stays"));
+  EXPECT_EQ(nullptr, pSupport);
+  EXPECT_EQ(1, CountReferences(_pUp));
+}
+
+TEST_F(ZELSYPEventHandlersSupportTest, HandlerThatDiesWithTheStoreCannotAddAnotherOne)
+{
+  int added = -1;
+  {
+    ZELSYPEventHandlersSupport support;
+    ZELSYPEventHandler* const pDying = new LastWords([&] { added = support.AddHandler(_pUp, Keep("too late"), 0); });
+    support.AddHandler(_pUp, pDying, 0);
+    pDying->Release();
+  }
+  EXPECT_EQ(0, added);
+  EXPECT_EQ(1, CountReferences(_pUp));
+  EXPECT_EQ(1, CountReferences(_kept.back()));
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer pList is NULL"));
 }
 
 TEST_F(ZELSYPEventHandlersSupportTest, HandlerThatDiesWithTheStoreMayTakeOthersOut)

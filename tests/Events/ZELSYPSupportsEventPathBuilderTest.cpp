@@ -143,3 +143,15 @@ TEST_F(ZELSYPSupportsEventPathBuilderTest, StoresForNothingAreOneObjectEachForEv
   EXPECT_EQ(0, OneNodeBuilder::NO_SUPPORT()->GetHandlersList(_pUp).GetSize());
   EXPECT_EQ(nullptr, OneNodeBuilder::NO_CLASS_SUPPORT()->GetClassHandlersSupport(Button::MetaObject()));
 }
+
+TEST_F(ZELSYPSupportsEventPathBuilderTest, HandlersPutOnTheStoresForNothingDoNotRun)
+{
+  LoggingHandler* const pHandler = Keep("on a store for nothing");
+  EXPECT_EQ(1, OneNodeBuilder::NO_SUPPORT()->AddHandler(_pUp, pHandler, 0));
+  EXPECT_EQ(1, OneNodeBuilder::NO_CLASS_SUPPORT()->AddClassHandler(Button::MetaObject(), _pUp, pHandler, 0));
+  EXPECT_EQ(1, Dispatch());
+  EXPECT_EQ(1, OneNodeBuilder::NO_SUPPORT()->RemoveHandler(_pUp, pHandler));
+  EXPECT_EQ(1, OneNodeBuilder::NO_CLASS_SUPPORT()->RemoveClassHandler(Button::MetaObject(), _pUp, pHandler));
+  EXPECT_THAT(_log, IsEmpty());
+  EXPECT_THAT(_failures.GetMessages(), IsEmpty());
+}

@@ -1,7 +1,6 @@
 #include "ZELSYPEventHandlersSupport.h"
 
 #include "ZELMetaClass.h"
-#include "ZELSYPArray.h"
 #include "ZELSYPCheck.h"
 #include "ZELSYPEvent.h"
 #include "ZELSYPEventHandler.h"
@@ -37,7 +36,9 @@ ZELSYPEventHandlersSupport::ZELSYPEventHandlersSupport() = default;
 
 ZELSYPEventHandlersSupport::~ZELSYPEventHandlersSupport()
 {
-  Clear();
+  _isGoing = true;
+  Lists lists;
+  Clear(lists);
 }
 
 int ZELSYPEventHandlersSupport::AddHandler(ZELSYPEvent* i_pEvent, ZELSYPEventHandler* i_pHandler, int i_handleConsumedEvents)
@@ -72,7 +73,8 @@ int ZELSYPEventHandlersSupport::RemoveHandler(ZELSYPEvent* i_pEvent, ZELSYPEvent
 
 ZELSYPEventHandlerInfoList ZELSYPEventHandlersSupport::GetHandlersList(ZELSYPEvent* i_pEvent)
 {
-  const ZELSYPEventHandlerInfoList* const pList = ZELSYP_CHECK_POINTER(i_pEvent) ? FindPrunedList(i_pEvent) : nullptr;
+  ZELSYPEventHandlerInfoList removed;
+  const ZELSYPEventHandlerInfoList* const pList = ZELSYP_CHECK_POINTER(i_pEvent) ? FindPrunedList(i_pEvent, removed) : nullptr;
   return pList ? *pList : ZELSYPEventHandlerInfoList();
 }
 
@@ -82,11 +84,13 @@ int ZELSYPEventHandlersSupport::GetHandlersCount(ZELSYPEvent* i_pEvent) const
   return pList ? pList->GetSize() : 0;
 }
 
+// What is forgotten goes last: a handler that dies may change or destroy either store.
 void ZELSYPEventHandlersSupport::ReplaceHandlers(const ZELSYPEventHandlersSupport& i_support)
 {
   if (this == &i_support)
     return;
-  Clear();
+  Lists forgotten;
+  Clear(forgotten);
   ZELSYP_CHECK_TRUE(_eventHandlers.GetSize() == 0);
   CopyFrom(i_support);
   ZELSYP_CHECK_TRUE(_eventHandlers.GetSize() == i_support._eventHandlers.GetSize());
@@ -107,6 +111,8 @@ ZELSYPEventHandlerInfoList* ZELSYPEventHandlersSupport::FindOrAddList(ZELSYPEven
 {
   if (ZELSYPEventHandlerInfoList* const pList = _eventHandlers.Locate(i_pEvent))
     return pList;
+  if (_isGoing)
+    return nullptr;
   StoreList(i_pEvent, ZELSYPEventHandlerInfoList());
   return _eventHandlers.Locate(i_pEvent);
 }
@@ -126,17 +132,16 @@ void ZELSYPEventHandlersSupport::ReleaseEvent(ZELSYPEvent& io_event)
   io_event.Release();
 }
 
-// The lists go last: a handler that dies with its list may call back, and finds nothing here any more.
-void ZELSYPEventHandlersSupport::Clear()
+// The lists are the caller's: a handler that dies with its list may call back, and finds nothing here any more.
+void ZELSYPEventHandlersSupport::Clear(Lists& o_lists)
 {
-  ZELSYPArray<ZELSYPEventHandlerInfoList> lists;
   for (ListsByEvent::Iterator it(_eventHandlers); !it.IsDone(); it.Next())
   {
     ListsByEvent::Pair* const pEntry = it.CurrentItem();
     // A walk whose map changed gets no further.
     if (!ZELSYP_CHECK_POINTER(pEntry))
       break;
-    lists.Append(pEntry->_value);
+    o_lists.Append(pEntry->_value);
     if (ZELSYP_CHECK_REPORT(pEntry->_key, Check_Pointer_Failed__, "pEntry->key", __LINE__, nullptr))
       ReleaseEvent(*pEntry->_key);
   }

@@ -41,7 +41,7 @@ inline ZELBaseUnknown_var ZELSYPSupportsEventPathBuilder::TakeNode(const ZELSYPE
   io_pElement->AddList(*i_pList);
 }
 
-// The sentinels are stores like any other, without handlers.
+// What is pruned lives until the lists were taken: the end of a handler may change the stores, or destroy them.
 ZELSYPEventPathElt* ZELSYPSupportsEventPathBuilder::BuildElement(ZELSYPEventArgs* i_pArgs, ZELBaseUnknown* i_pNode)
 {
   if (!ZELSYP_CHECK_POINTER(i_pArgs) || !ZELSYP_CHECK_POINTER(i_pNode))
@@ -53,20 +53,22 @@ ZELSYPEventPathElt* ZELSYPSupportsEventPathBuilder::BuildElement(ZELSYPEventArgs
   ZELSYPClassEventHandlersSupport* const pClassSupport = GetClassSupportForNode(i_pNode);
   if (!ZELSYP_CHECK_POINTER(pSupport) || !ZELSYP_CHECK_POINTER(pClassSupport))
     return nullptr;
+  ZELSYPEventHandlerInfoList removed;
   Element pElement;
   if (pEvent->_storeCount != 0)
   {
-    if (pClassSupport->_supports.GetSize() != 0)
-      AddClassLists(pElement, *i_pArgs, *i_pNode, *pClassSupport);
-    AddList(pElement, *i_pArgs, *i_pNode, pSupport->FindPrunedList(pEvent));
+    if (pClassSupport->_supports.GetSize() != 0 && pClassSupport != NO_CLASS_SUPPORT())
+      AddClassLists(pElement, *i_pArgs, *i_pNode, *pClassSupport, removed);
+    if (pSupport != NO_SUPPORT())
+      AddList(pElement, *i_pArgs, *i_pNode, pSupport->FindPrunedList(pEvent, removed));
   }
   return pElement ? pElement.release() : NO_ELEMENT();
 }
 
 void ZELSYPSupportsEventPathBuilder::AddClassLists(Element& io_pElement, ZELSYPEventArgs& io_args, ZELBaseUnknown& i_node,
-                                                   ZELSYPClassEventHandlersSupport& io_classSupport)
+                                                   ZELSYPClassEventHandlersSupport& io_classSupport, ZELSYPEventHandlerInfoList& io_removed)
 {
   ZELMetaClass* const pClass = i_node.GetMetaObject();
   for (int index = 0; ZELSYPEventHandlersSupport* const pOfClass = io_classSupport.GetInChain(pClass, index); ++index)
-    AddList(io_pElement, io_args, i_node, pOfClass->FindPrunedList(io_args.GetEvent()));
+    AddList(io_pElement, io_args, i_node, pOfClass->FindPrunedList(io_args.GetEvent(), io_removed));
 }
