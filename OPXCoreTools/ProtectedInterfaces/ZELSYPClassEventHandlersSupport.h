@@ -25,7 +25,7 @@ public:
 
   // What ZELSYPEventHandlersSupport::AddHandler and RemoveHandler answer and report, on the class's store; the first
   // addition makes the store. Before that: no class ("i_pClass"), no event ("i_pEvent"), no handler ("i_pHandler"), an
-  // entry without a store ("pSupport"): 0.
+  // entry without a store, or a class without one while all of them are being destroyed ("pSupport"): 0.
   int AddClassHandler(ZELMetaClass* i_pClass, ZELSYPEvent* i_pEvent, ZELSYPEventHandler* i_pHandler, int i_handleConsumedEvents);
   int RemoveClassHandler(ZELMetaClass* i_pClass, ZELSYPEvent* i_pEvent, ZELSYPEventHandler* i_pHandler);
   // The store of this very class, borrowed, or null. No class: "i_pClass". An entry without a store: "pSupport".
@@ -42,12 +42,13 @@ private:
   // The stores of a class and its base classes, most derived class first: the one at i_index, or null past the last.
   ZELSYPEventHandlersSupport* GetInChain(ZELMetaClass* i_pClass, int i_index)
   {
-    if (i_pClass != _pLastClass)
-      FindChain(i_pClass);
+    if (i_pClass != _pLastClass && !FindChain(i_pClass))
+      return FindWithoutChain(i_pClass, i_index);
     return _pLastChain && i_index < _pLastChain->GetLength() ? _pLastChain->begin()[i_index] : nullptr;
   }
-  void FindChain(ZELMetaClass* i_pClass);
-  Chain MakeChain(ZELMetaClass* i_pClass);
+  bool FindChain(ZELMetaClass* i_pClass);
+  const Chain* MakeChain(ZELMetaClass* i_pClass);
+  ZELSYPEventHandlersSupport* FindWithoutChain(ZELMetaClass* i_pClass, int i_index);
   void ForgetChains();
   ZELSYPEventHandlersSupport* FindOrAddSupport(ZELMetaClass* i_pClass);
   void Clear();
@@ -56,6 +57,8 @@ private:
   ZELSYPHashMap<ZELMetaClass*, Chain> _chains;
   ZELMetaClass* _pLastClass = nullptr;
   const Chain* _pLastChain = nullptr;
+  // A handler that dies with the stores can add none any more.
+  bool _isGoing = false;
 };
 
 #endif

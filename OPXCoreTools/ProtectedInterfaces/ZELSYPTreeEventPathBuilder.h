@@ -34,14 +34,15 @@ protected:
   {
     return std::exchange(_isTooDeep, false) ? nullptr : ZELSYPSupportsEventPathBuilder::BuildElement(i_pArgs, i_pNode);
   }
-  // Called for one node after the other from the origin on; the count starts again when the chain has ended.
+  // Called for one node after the other from the origin on; the count starts again with a node that was not answered last.
   ZELBaseUnknown* GetParent(ZELSYPEventArgs*, ZELBaseUnknown* i_pNode) override
   {
-    const int depth = std::exchange(_depth, 0) + 1;
+    const int depth = i_pNode == std::exchange(_pNext, nullptr) ? _depth + 1 : 1;
     ZELBaseUnknown* const pParent = _parentOf(i_pNode);
     if (!pParent || !IsWithinLimit(depth))
       return nullptr;
     _depth = depth;
+    _pNext = pParent;
     return pParent;
   }
   ZELSYPEventHandlersSupport* GetSupportForNode(ZELBaseUnknown* i_pNode) override
@@ -71,6 +72,8 @@ private:
   ClassHandlersOf _classHandlersOf;
   const int _depthLimit;
   int _depth = 0;
+  // The node of the chain that is asked for its parent next; only compared.
+  const ZELBaseUnknown* _pNext = nullptr;
   // The route whose elements are asked for next has no end within the limit.
   bool _isTooDeep = false;
 };

@@ -14,6 +14,17 @@ using testing::IsEmpty;
 
 namespace
 {
+// A handler that does something when it dies.
+class LastWords : public CountedHandler
+{
+public:
+  explicit LastWords(std::function<void()> i_words) : _words(std::move(i_words)) {}
+  ~LastWords() override { _words(); }
+
+private:
+  const std::function<void()> _words;
+};
+
 class ZELSYPClassEventHandlersSupportTest : public testing::Test, protected RouteWorld
 {
 protected:
@@ -114,21 +125,14 @@ TEST_F(ZELSYPClassEventHandlersSupportTest, EntryThatCannotBeReadAsTheStoresChan
   pSupport->_supports.Set(Panel::MetaObject(), nullptr);
   pSupport->_supports.Set(Widget::MetaObject(), nullptr);
   std::vector<std::string> messages;
-  MeddlingFailureHandler::While([pRaw = pSupport.get()] { pRaw->_supports.Set(Button::MetaObject(), nullptr); }, [&] { pSupport = nullptr; }, messages);
+  MeddlingFailureHandler::While([pRaw = pSupport.get()] { pRaw->_supports.Set(Button::MetaObject(), nullptr); },
+                                [&] { pSupport = nullptr; }, messages);
   EXPECT_THAT(messages, ElementsAre("pointer pEntry->value is NULL", "boolean _pHashTable->Size() == _size is FALSE",
                                     "boolean _pHashTable->Size() == _size is FALSE", "pointer pEntry is NULL"));
 }
 
 TEST_F(ZELSYPClassEventHandlersSupportTest, HandlerThatAddsAnotherOneAsTheStoresGoIsReported)
 {
-  class LastWords : public CountedHandler
-  {
-  public:
-    explicit LastWords(std::function<void()> i_words) : _words(std::move(i_words)) {}
-    ~LastWords() override { _words(); }
-
-    const std::function<void()> _words;
-  };
   LoggingHandler* const pOther = Keep("other");
   auto pSupport = std::make_unique<OpenClassSupport>();
   ZELSYPEventHandler* const pDying = new LastWords([&, pRaw = pSupport.get()] { pRaw->_supports.Set(Panel::MetaObject(), nullptr); });
@@ -150,4 +154,35 @@ TEST_F(ZELSYPClassEventHandlersSupportTest, ClassThatGetsItsFirstHandlerBetweenT
   Listen(Button::MetaObject(), "button");
   Raise(*_leaf);
   EXPECT_THAT(_log, ElementsAre("widget", "panel", "widget", "button", "panel", "widget"));
+}
+
+TEST_F(ZELSYPClassEventHandlersSupportTest, HandlerThatDiesWithTheStoresCannotAddAnotherOne)
+{
+  int added = -1;
+  {
+    ZELSYPClassEventHandlersSupport support;
+    ZELSYPEventHandler* const pDying =
+        new LastWords([&] { added = support.AddClassHandler(Widget::MetaObject(), _pUp, Keep("too late"), 0); });
+    support.AddClassHandler(Panel::MetaObject(), _pUp, pDying, 0);
+    pDying->Release();
+  }
+  EXPECT_EQ(0, added);
+  EXPECT_EQ(1, CountReferences(_pUp));
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer pSupport is NULL"));
+}
+
+TEST_F(ZELSYPClassEventHandlersSupportTest, ClassThatGetsItsFirstHandlerFromOneThatIsPrunedRunsEachHandlerOnce)
+{
+  auto* const pDying = new LastWords([&] { Listen(Button::MetaObject(), "button"); });
+  pDying->_mustBeRemoved = 1;
+  _pEvent = _pHere;
+  _classHandlers.AddClassHandler(Panel::MetaObject(), _pHere, pDying, 0);
+  pDying->Release();
+  Listen(Panel::MetaObject(), "panel");
+  Listen(Widget::MetaObject(), "widget");
+  Raise(*_leaf);
+  EXPECT_THAT(_log, ElementsAre("panel", "widget"));
+  _log.clear();
+  Raise(*_leaf);
+  EXPECT_THAT(_log, ElementsAre("button", "panel", "widget"));
 }

@@ -2,6 +2,7 @@
 #include "RecordingFailureHandler.h"
 #include "RouteWorld.h"
 #include "ZELSYPRecycledBlocks.h"
+#include "ZELSYPTreeEventPathBuilder.h"
 
 #include <gmock/gmock.h>
 
@@ -97,4 +98,45 @@ TEST_F(RoutesWithoutMemoryTest, BlockThatThereIsNoMemoryForIsNull)
   AllocationFailures refused;
   EXPECT_EQ(nullptr, ZELSYPRecycledBlocks::Take(std::size_t{1} << 21));
   EXPECT_EQ(nullptr, ZELSYPRecycledBlocks::Take(SIZE_MAX));
+}
+
+TEST_F(RoutesWithoutMemoryTest, ClassHandlersRunWhenTheirChainFindsNoMemoryAndAfterwards)
+{
+  LoggingHandler* const pWidgets = Listen(Widget::MetaObject(), "widget");
+  LoggingHandler* const pButtons = Listen(Button::MetaObject(), "button");
+  _log.reserve(8);
+  pWidgets->_nodes.reserve(8);
+  pButtons->_nodes.reserve(8);
+  const auto other = ZELHandle<Widget>::Adopt(new Widget);
+  // The blocks of a dispatch are there then, and no chain of a button.
+  Raise(*other);
+  _log.clear();
+  _leaf->_pParent = nullptr;
+  {
+    AllocationFailures refused;
+    EXPECT_EQ(1, Raise(*_leaf));
+  }
+  Raise(*_leaf);
+  EXPECT_THAT(_log, ElementsAre("button", "widget", "button", "widget"));
+}
+
+TEST_F(RoutesWithoutMemoryTest, DepthIsCountedAnewAfterAChainThatFoundNoMemory)
+{
+  std::vector<ZELHandle<Widget>> chain{_root};
+  while (chain.size() < 100)
+    chain.push_back(ZELHandle<Widget>::Adopt(new Widget(chain.back())));
+  ZELSYPTreeEventPathBuilder builder([](ZELBaseUnknown* i_pNode) -> ZELBaseUnknown* { return static_cast<Widget*>(i_pNode)->_pParent; },
+                                     [](ZELBaseUnknown* i_pNode) { return &static_cast<Widget*>(i_pNode)->_handlers; },
+                                     [](ZELBaseUnknown*) -> ZELSYPClassEventHandlersSupport* { return nullptr; }, 100);
+  OnAFreshThread(
+      [&]
+      {
+        ZELSYPEventArgs args(_pUp);
+        AllocationFailures refused;
+        EXPECT_EQ(0, builder.Dispatch(chain.back(), &args));
+      });
+  _failures.Clear();
+  ZELSYPEventArgs args(_pUp);
+  EXPECT_EQ(1, builder.Dispatch(chain.back(), &args));
+  EXPECT_THAT(_failures.GetMessages(), testing::IsEmpty());
 }

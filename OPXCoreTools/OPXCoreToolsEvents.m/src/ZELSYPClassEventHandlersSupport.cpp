@@ -11,6 +11,7 @@ ZELSYPClassEventHandlersSupport::ZELSYPClassEventHandlersSupport() = default;
 
 ZELSYPClassEventHandlersSupport::~ZELSYPClassEventHandlersSupport()
 {
+  _isGoing = true;
   Clear();
 }
 
@@ -42,11 +43,13 @@ ZELSYPEventHandlersSupport* ZELSYPClassEventHandlersSupport::GetClassHandlersSup
   return ZELSYP_CHECK_POINTER(pSupport) ? pSupport : nullptr;
 }
 
-// Null for an entry without a store, or when there is no memory for a new one.
+// Null for an entry without a store, when there is no memory for a new one, or when all of them go.
 ZELSYPEventHandlersSupport* ZELSYPClassEventHandlersSupport::FindOrAddSupport(ZELMetaClass* i_pClass)
 {
   if (ZELSYPEventHandlersSupport* const* const pEntry = _supports.Locate(i_pClass))
     return *pEntry;
+  if (_isGoing)
+    return nullptr;
   std::unique_ptr<ZELSYPEventHandlersSupport> pSupport = std::make_unique<ZELSYPEventHandlersSupport>();
   if (_supports.Set(i_pClass, pSupport.get()) != 1)
     return nullptr;
@@ -54,21 +57,43 @@ ZELSYPEventHandlersSupport* ZELSYPClassEventHandlersSupport::FindOrAddSupport(ZE
   return pSupport.release();
 }
 
-void ZELSYPClassEventHandlersSupport::FindChain(ZELMetaClass* i_pClass)
+bool ZELSYPClassEventHandlersSupport::FindChain(ZELMetaClass* i_pClass)
 {
-  if (!_chains.Locate(i_pClass))
-    _chains.Set(i_pClass, MakeChain(i_pClass));
-  _pLastChain = _chains.Locate(i_pClass);
+  const Chain* pChain = _chains.Locate(i_pClass);
+  if (!pChain)
+    pChain = MakeChain(i_pClass);
+  if (!pChain)
+    return false;
+  _pLastChain = pChain;
   _pLastClass = i_pClass;
+  return true;
 }
 
-ZELSYPClassEventHandlersSupport::Chain ZELSYPClassEventHandlersSupport::MakeChain(ZELMetaClass* i_pClass)
+// Null, and nothing is remembered, when there is no memory for the whole of it.
+const ZELSYPClassEventHandlersSupport::Chain* ZELSYPClassEventHandlersSupport::MakeChain(ZELMetaClass* i_pClass)
 {
-  Chain chain;
+  _chains.Set(i_pClass, Chain());
+  Chain* const pChain = _chains.Locate(i_pClass);
+  for (ZELMetaClass* pClass = i_pClass; pChain && pClass; pClass = pClass->GetBaseClass())
+  {
+    ZELSYPEventHandlersSupport* const pSupport = GetClassHandlersSupport(pClass);
+    if (pSupport && !pChain->Append(pSupport))
+    {
+      _chains.Remove(i_pClass);
+      return nullptr;
+    }
+  }
+  return pChain;
+}
+
+ZELSYPEventHandlersSupport* ZELSYPClassEventHandlersSupport::FindWithoutChain(ZELMetaClass* i_pClass, int i_index)
+{
+  int index = 0;
   for (ZELMetaClass* pClass = i_pClass; pClass; pClass = pClass->GetBaseClass())
     if (ZELSYPEventHandlersSupport* const pSupport = GetClassHandlersSupport(pClass))
-      chain.Append(pSupport);
-  return chain;
+      if (index++ == i_index)
+        return pSupport;
+  return nullptr;
 }
 
 void ZELSYPClassEventHandlersSupport::ForgetChains()

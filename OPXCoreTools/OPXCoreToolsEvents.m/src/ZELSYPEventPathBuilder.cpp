@@ -130,10 +130,11 @@ int ZELSYPEventPathBuilder::FillListOfNodes(Nodes& io_list, ZELSYPEventArgs* i_p
     return 0;
   const ZELSYPEvent::Propagation propagation = pEvent->GetPropagation();
   if (propagation == ZELSYPEvent::NoPropagation)
-    return io_list.Append(ZELBaseUnknown_var(spOrigin));
-  if (!IsKnown(propagation))
+    io_list.Append(ZELBaseUnknown_var(spOrigin));
+  else if (IsKnown(propagation))
+    AddChain(io_list, *i_pArgs, spOrigin);
+  else
     return 0;
-  AddChain(io_list, *i_pArgs, spOrigin);
   if (propagation == ZELSYPEvent::RootToOrigin)
     std::reverse(io_list.begin(), io_list.end());
   return ZELSYP_CHECK_TRUE(io_list.GetLength() >= 1);
