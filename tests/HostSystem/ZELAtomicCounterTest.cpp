@@ -51,3 +51,11 @@ TEST(ZELAtomicCounterTest, ThreadsThatStartOneAfterTheOtherLoseNoCount)
     thread.join();
   EXPECT_EQ(16000, counter.Get());
 }
+
+TEST(ZELAtomicCounterTest, CountsOnFromWhatOneThreadAloneCounted)
+{
+  ZELAtomicCounter counter(1);
+  counter.Increment();
+  std::thread([&counter] { counter.Increment(); }).join();
+  EXPECT_EQ(4, counter.Increment());
+}
