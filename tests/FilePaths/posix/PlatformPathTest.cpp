@@ -87,6 +87,27 @@ TEST(PlatformPath, ListsAShareBelowTheRoot)
   EXPECT_EQ(List((share + "\\*").c_str()), Texts{share + "\\f"});
 }
 
+TEST(PlatformPath, TakesAServerWithoutAShareForANameAtTheRoot)
+{
+  EXPECT_EQ(List("\\\\tmp"), Texts{"\\tmp"});
+  EXPECT_EQ(List("\\\\no such server"), Texts());
+}
+
+TEST(PlatformPath, SetTimeLeavesTheTimeOfTheLastAccessAlone)
+{
+  TemporaryTree tree;
+  tree.AddFile("from");
+  const std::string to = tree.AddFile("to").string();
+  const timespec times[] = {{1000000000, 123456700}, {1100000000, 0}};
+  ASSERT_EQ(utimensat(AT_FDCWD, to.c_str(), times, 0), 0);
+  In(tree, "to").SetTime(In(tree, "from"));
+  struct stat now;
+  ASSERT_EQ(stat(to.c_str(), &now), 0);
+  EXPECT_NE(now.st_mtim.tv_sec, 1100000000);
+  EXPECT_EQ(now.st_atim.tv_sec, 1000000000);
+  EXPECT_EQ(now.st_atim.tv_nsec, 123456700);
+}
+
 TEST(PlatformPath, MakesATemporaryFileForItsOwnerOnly)
 {
   ZELSYPFilePath path = ZELSYPFilePath::GetTemporaryFileName();

@@ -107,3 +107,37 @@ TEST(PlatformPath, TriesAWideNameOfUpTo1023Characters)
   for (; !folders.empty(); folders.pop_back())
     EXPECT_TRUE(RemoveDirectoryW(folders.back().c_str()));
 }
+
+TEST(PlatformPath, TakesAServerWithoutAShareForANameInTheWorkingDirectory)
+{
+  TemporaryTree tree;
+  tree.AddDirectory("server");
+  ASSERT_EQ(ZELSYPFilePath::SetWorkDir(In(tree)), 0);
+  EXPECT_EQ(List("\\\\server"), Texts{TextOf(ZELSYPFilePath::GetWorkDir()) + "\\server"});
+  EXPECT_EQ(List("\\\\no such server"), Texts());
+}
+
+static HANDLE Open(const std::filesystem::path& i_file)
+{
+  return CreateFileW(i_file.c_str(), FILE_READ_ATTRIBUTES | FILE_WRITE_ATTRIBUTES, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+}
+
+TEST(PlatformPath, SetTimeLeavesTheTimesOfCreationAndOfTheLastAccessAlone)
+{
+  TemporaryTree tree;
+  tree.AddFile("from");
+  const auto to = tree.AddFile("to");
+  const FILETIME times[] = {{1000, 29000000}, {2000, 29100000}, {3000, 29200000}};
+  HANDLE file = Open(to);
+  ASSERT_NE(SetFileTime(file, &times[0], &times[1], &times[2]), 0);
+  FILETIME before[3], after[3];
+  ASSERT_NE(GetFileTime(file, &before[0], &before[1], &before[2]), 0);
+  CloseHandle(file);
+  In(tree, "to").SetTime(In(tree, "from"));
+  file = Open(to);
+  ASSERT_NE(GetFileTime(file, &after[0], &after[1], &after[2]), 0);
+  CloseHandle(file);
+  EXPECT_EQ(CompareFileTime(&before[0], &after[0]), 0);
+  EXPECT_EQ(CompareFileTime(&before[1], &after[1]), 0);
+  EXPECT_NE(CompareFileTime(&before[2], &after[2]), 0);
+}
