@@ -3,6 +3,7 @@
 #include "ChildProcess.h"
 #include "ChildProgram.h"
 #include "RecordingFailureHandler.h"
+#include "VirtualSlots.h"
 #include "ZELHandle.h"
 #include "ZELSYPEventHandler.h"
 #include "ZELSYPModelChangedEventArgs.h"
@@ -13,7 +14,6 @@
 
 #include <cstddef>
 #include <cstdio>
-#include <cstring>
 #include <functional>
 #include <set>
 #include <string>
@@ -44,16 +44,6 @@ public:
 private:
   std::vector<ZELBaseUnknown*>& _origins;
 };
-
-// Where an operation stands in the table of virtual operations, in bytes: what the platforms' common calling rules put into
-// a pointer to a virtual member.
-template <class Operation>
-std::ptrdiff_t GetSlot(Operation i_pOperation)
-{
-  std::ptrdiff_t offset = 0;
-  std::memcpy(&offset, &i_pOperation, sizeof offset);
-  return offset;
-}
 
 void ExpectEvent(ZELSYPEvent* i_pEvent, const std::string& i_name, ZELMetaClass* i_pArgumentType)
 {
