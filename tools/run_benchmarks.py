@@ -42,7 +42,7 @@ def measure(program):
     """The medians of one program: name to figure."""
     results = BUILD / f"{program.name}.json"
     print(f"{program.name} ...", file=sys.stderr)
-    subprocess.run([program, "--benchmark_enable_random_interleaving=true", "--benchmark_repetitions=9", "--benchmark_min_time=0.1",
+    subprocess.run([program, "--benchmark_enable_random_interleaving=true", "--benchmark_repetitions=7", "--benchmark_min_time=0.05",
                     "--benchmark_report_aggregates_only=true", "--benchmark_out_format=json", f"--benchmark_out={results}"],
                    check=True, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)
     medians = [run for run in json.loads(results.read_text())["benchmarks"] if run.get("aggregate_name") == "median"]
@@ -102,7 +102,7 @@ def table(cases, targets):
     return "\n".join([
         "# Benchmarks", "",
         f"Measured on {datetime.date.today().isoformat()} on {processor()}, {os.cpu_count()} cores, by the command `tools/benchmark`.",
-        "Medians of nine runs, by turns, in nanoseconds, of a case named Memory in bytes; a ratio is the project's figure divided",
+        "Medians of seven runs, by turns, in nanoseconds, of a case named Memory in bytes; a ratio is the project's figure divided",
         "by the peer's. A case that ends in Threads was measured while its process had a second thread.", "",
         "| case | project | peers | ratio | target | |", "|---|---:|---|---:|---|---|",
         *(row(case, cases[case], goals(targets, case)) for case in sorted(cases)),
