@@ -49,9 +49,9 @@ private:
 };
 
 template <class Callable>
-constexpr bool ZELSYP_IS_STD_FUNCTION = false;
+inline constexpr bool ZELSYP_IS_STD_FUNCTION = false;
 template <class Signature>
-constexpr bool ZELSYP_IS_STD_FUNCTION<std::function<Signature>> = true;
+inline constexpr bool ZELSYP_IS_STD_FUNCTION<std::function<Signature>> = true;
 
 // The handle holds the only reference; a store takes one of its own. The callable is moved (copied when it is an lvalue).
 // A handler, or a handle to one, is answered as it is, so that whoever takes "a handler or a callable" needs no second

@@ -80,7 +80,7 @@ public:
     Capacity = i_count
   };
 
-  Room() noexcept { _head._kind = NoBlock; }
+  Room() noexcept : _head{} { _head._kind = NoBlock; }
   Room(const Room&) = delete;
   Room& operator=(const Room&) = delete;
 

@@ -10,8 +10,10 @@
 
 #include <memory>
 
+using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Not;
 
 namespace
 {
@@ -285,6 +287,7 @@ TEST_F(ZELSYPEventHandlersSupportTest, HandlerThatAddsAnotherOneAsItIsReplacedFi
   _support.AddHandler(_pUp, pDying, 0);
   pDying->Release();
   _support.ReplaceHandlers(ZELSYPEventHandlersSupport());
+  EXPECT_THAT(_failures.GetMessages(), Not(Contains("boolean _eventHandlers.GetSize() == 0 is FALSE")));
   EXPECT_THAT(_failures.GetMessages(), IsEmpty());
   EXPECT_THAT(NamesIn(_support.GetHandlersList(_pHere)), ElementsAre("again"));
 }

@@ -26,7 +26,7 @@ char* Copy(const char* i_text)
 {
   const std::size_t size = std::strlen(i_text) + 1;
   char* const pCopy = new (std::nothrow) char[size];
-  return pCopy ? std::strcpy(pCopy, i_text) : nullptr;
+  return pCopy ? static_cast<char*>(std::memcpy(pCopy, i_text, size)) : nullptr;
 }
 } // namespace
 
