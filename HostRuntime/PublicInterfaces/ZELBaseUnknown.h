@@ -13,7 +13,7 @@
 
 #include <type_traits>
 
-// In the body of a class, which goes on with public members.
+// In the body of a class, which goes on with public members. As with all macros here, a semicolon must follow.
 #define ZELDeclareClass                                                                                                                    \
 public:                                                                                                                                    \
   [[maybe_unused]] static const char* ClassName();                                                                                         \
@@ -100,15 +100,12 @@ constexpr bool ZELCheckClass_()
 
 // The arguments below are names, which stand in no parentheses. NOLINTBEGIN(bugprone-macro-parentheses)
 
-// The record is a constant that needs no initialiser, so that it is there before main() begins and after it has ended.
+// The record is a constant that needs no initialiser, so that it is there before main() begins and after it has ended. The
+// registrar comes last for want of a semicolon: without one the macro does not compile.
 #define ZELImplementRecord_(Name, Class, Module, Id, BaseRecord, Create)                                                                   \
-  namespace                                                                                                                                \
-  {                                                                                                                                        \
-  ZELMetaClass ZELRecord##Name(                                                                                                            \
+  static ZELMetaClass ZELRecord##Name(                                                                                                     \
       #Class, #Module, Id, BaseRecord, [](ZELBaseUnknown* i_pObject) -> void* { return static_cast<Class*>(i_pObject); },                  \
       []() -> ZELBaseUnknown* { return Class::CreateItself(); });                                                                          \
-  __attribute__((init_priority(101))) ZELMetaClassRegistrar ZELRegistrar##Name(ZELRecord##Name);                                           \
-  }                                                                                                                                        \
   const char* Class::ClassName()                                                                                                           \
   {                                                                                                                                        \
     return #Class;                                                                                                                         \
@@ -128,7 +125,8 @@ constexpr bool ZELCheckClass_()
   ZELBaseUnknown* Class::CreateItself()                                                                                                    \
   {                                                                                                                                        \
     return Create;                                                                                                                         \
-  }
+  }                                                                                                                                        \
+  __attribute__((init_priority(101))) static ZELMetaClassRegistrar ZELRegistrar##Name(ZELRecord##Name)
 #define ZELImplementDerived_(Line, Class, Base, Module, Id, Create)                                                                        \
   static_assert(ZELCheckClass_<Class, Base>());                                                                                            \
   ZELImplementRecord_(                                                                                                                     \

@@ -1,7 +1,7 @@
 #include "EventWorld.h"
 
-ZELImplementClass(Door, ZELBaseUnknown, OPXCoreToolsTests)
-ZELImplementClass(Gate, ZELBaseUnknown, OPXCoreToolsTests)
-ZELImplementClass(DoorArgs, ZELSYPEventArgs, OPXCoreToolsTests)
+ZELImplementClass(Door, ZELBaseUnknown, OPXCoreToolsTests);
+ZELImplementClass(Gate, ZELBaseUnknown, OPXCoreToolsTests);
+ZELImplementClass(DoorArgs, ZELSYPEventArgs, OPXCoreToolsTests);
 
 int CountedHandler::s_living = 0;

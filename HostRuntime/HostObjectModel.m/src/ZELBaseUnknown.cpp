@@ -2,13 +2,13 @@
 
 #include "ZELExtension.h"
 
-ZELImplementRecord_(OfRoot, ZELBaseUnknown, OPXHostRuntime, ZELClassId::FromName("ZELBaseUnknown"), nullptr, nullptr)
+ZELImplementRecord_(OfRoot, ZELBaseUnknown, OPXHostRuntime, ZELClassId::FromName("ZELBaseUnknown"), nullptr, nullptr);
 
-    namespace
+namespace
 {
-  // What the count of an object stands at while it is destroyed: lending it out in its destructor does not end it twice.
-  constexpr int CountOfTheDying = 1 << 30;
-}
+// What the count of an object stands at while it is destroyed: lending it out in its destructor does not end it twice.
+constexpr int CountOfTheDying = 1 << 30;
+} // namespace
 
 int ZELBaseUnknown::AddRefOwner()
 {

@@ -4,7 +4,7 @@
 #include "ZELSYPCheck.h"
 #include "ZELSYPEventArgs.h"
 
-ZELImplementClass(ZELSYPEvent, ZELBaseUnknown, OPXCoreTools)
+ZELImplementClass(ZELSYPEvent, ZELBaseUnknown, OPXCoreTools);
 
 namespace
 {

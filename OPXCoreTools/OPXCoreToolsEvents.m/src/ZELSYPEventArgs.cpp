@@ -3,7 +3,7 @@
 #include "ZELMetaClass.h"
 #include "ZELSYPCheck.h"
 
-ZELImplementClass(ZELSYPEventArgs, ZELBaseUnknown, OPXCoreTools)
+ZELImplementClass(ZELSYPEventArgs, ZELBaseUnknown, OPXCoreTools);
 
 void ZELSYPEventArgs::ReportMissingEvent()
 {

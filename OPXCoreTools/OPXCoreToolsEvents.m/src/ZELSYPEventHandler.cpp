@@ -2,6 +2,6 @@
 
 #include "ZELMetaClass.h"
 
-ZELImplementClass(ZELSYPEventHandler, ZELBaseUnknown, OPXCoreTools)
+ZELImplementClass(ZELSYPEventHandler, ZELBaseUnknown, OPXCoreTools);
 
 ZELSYPEventHandler::~ZELSYPEventHandler() = default;

@@ -4,7 +4,7 @@
 #include "ZELSYPCheck.h"
 #include "ZELSYPEventHandler.h"
 
-ZELImplementClass(ZELSYPEventHandlerInfo, ZELBaseUnknown, OPXCoreTools)
+ZELImplementClass(ZELSYPEventHandlerInfo, ZELBaseUnknown, OPXCoreTools);
 
 ZELSYPEventHandlerInfo::ZELSYPEventHandlerInfo(ZELSYPEventHandler* i_pHandler, int i_handleConsumedEvents)
     : _pHandler(i_pHandler), _handleConsumedEvents(i_handleConsumedEvents)
