@@ -14,14 +14,11 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
-#include <nlohmann/json_fwd.hpp>
 #include <string>
 #include <string_view>
 #include <utility>
 
-class OPXTreeMethods;
-class OPXTreeOutbox;
-class OPXTreeReply;
+class OPXTreeConversation;
 class OPXTreeRowsSource;
 class ZELSYPAbstractDataSource;
 
@@ -39,15 +36,16 @@ public:
   // Success callbacks that wait for the view: one more, and the oldest is given up.
   static constexpr std::size_t MaxAwaited = 1000;
 
-  // Takes one message for the view: one line of valid UTF-8 without its end. It may call the session, but not destroy it. It
-  // throws nothing; if it does all the same, its message counts as sent, and the session serves on.
+  // Takes one message for the view: one line of valid UTF-8 without its end. It may call the session. What it throws is
+  // dropped, and its message counts as sent: whoever raised an event, or answers late, could not know what to do about it.
   using Output = std::function<void(const std::string& i_message)>;
 
   // Without an output the source's events stay unheard, and a request that the source does not answer at once is an error.
   // Source and rows are borrowed: no message is given to the session once they have gone, but source and session may go
   // in either order. When the session goes, it hears no event any more, late answers are sent nowhere, and success
-  // callbacks that still wait go with it, uncalled. What the session calls (the source, the rows, a success callback) may
-  // call the session, but not destroy it. Session, source and output belong to one thread at a time.
+  // callbacks that still wait go with it, uncalled. What the session calls (the source, the rows, a success callback, the
+  // output) may call the session, and may destroy it: nothing else is called or sent then, and the message that was being
+  // served has no answer. Session, source and output belong to one thread at a time.
   OPXTreeSession(ZELSYPAbstractDataSource& i_source, OPXTreeRowsSource& i_rows, Output i_output = nullptr);
   // For a source that has its rows itself.
   template <class Source>
@@ -74,11 +72,7 @@ public:
   static std::string AnswerOversized();
 
 private:
-  std::string AnswerAll(nlohmann::json& io_message) const;
-  void AnswerRequest(nlohmann::json& io_request, OPXTreeReply& io_reply) const;
-
-  std::shared_ptr<OPXTreeOutbox> _pOutbox;
-  std::unique_ptr<OPXTreeMethods> _pMethods;
+  const std::shared_ptr<OPXTreeConversation> _pConversation;
 };
 
 #endif

@@ -87,6 +87,15 @@ TEST_F(OPXExplorerSelectionTest, WhatChangesNothingIsNotTold)
   EXPECT_THAT(sent, IsEmpty());
 }
 
+TEST_F(OPXExplorerSelectionTest, WhatGoesAndComesBackInOneChangeIsNotTold)
+{
+  Add({"file"});
+  EXPECT_EQ(Change({{"addedNodes", {"file"}}, {"removedNodes", {"file"}}}), json::object());
+  EXPECT_THAT(sent, IsEmpty());
+  Change({{"addedNodes", {"file", "d"}}, {"removedNodes", {"file"}}});
+  EXPECT_THAT(sent, ElementsAre(Notification({{"addedNodes", {"d"}}})));
+}
+
 TEST_F(OPXExplorerSelectionTest, WhatIsNotThereIsToBeDeselectedAgain)
 {
   const json hostile = {"gone", "", "..", "/", "d/", "/d", "d/..", "d/inner/x", "inner", "../file"};

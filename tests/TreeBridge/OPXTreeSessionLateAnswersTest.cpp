@@ -149,3 +149,12 @@ TEST_F(OPXTreeSessionLateAnswersTest, ALateAnswerOfOneMessageThatComesWithinAnot
   session->Receive(structure);
   EXPECT_THAT(sent, ElementsAre(structureAnswer, Selected("1", "a")));
 }
+
+TEST_F(OPXTreeSessionLateAnswersTest, WhatAnOutputThrowsReachesNobodyWhoAnswersLateOrDropsTheCallback)
+{
+  session.emplace(source, [](const std::string&) { throw std::runtime_error("closed"); });
+  session->Receive(Select("1"));
+  session->Receive(Select("2"));
+  EXPECT_NO_THROW(AnswerNext("a"));
+  EXPECT_NO_THROW(source.waiting.clear());
+}

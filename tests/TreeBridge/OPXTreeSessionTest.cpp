@@ -131,6 +131,19 @@ TEST_F(OPXTreeSessionTest, WhatIsNotJSONIsAParseError)
   }
 }
 
+TEST_F(OPXTreeSessionTest, AParseErrorDoesNotQuoteAllOfAMessage)
+{
+  for (const std::string& message :
+       {std::string(100000, '\t') + "x", "\"" + std::string(100000, 'a') + "\\q\"", "[1" + Repeat("\xC3\xA9", 100000)})
+  {
+    const json error = Ask(message)["error"];
+    EXPECT_EQ(error["code"], -32700);
+    EXPECT_THAT(error["data"]["reason"].get<std::string>(),
+                testing::StartsWith("[json.exception.parse_error.101] parse error at line 1, column "));
+    EXPECT_LT(error.dump().size(), 400u);
+  }
+}
+
 TEST_F(OPXTreeSessionTest, AZeroByteDoesNotEndAMessage)
 {
   EXPECT_EQ(GetCode(topRows + std::string("\0x", 2)), -32700);

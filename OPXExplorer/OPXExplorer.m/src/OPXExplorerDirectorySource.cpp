@@ -54,6 +54,12 @@ Records::SelectionChangeParameters MakeDeselection(Records::NodesPath i_nodes)
     return {std::vector<Records::IndexPath>(), std::move(i_nodes.indexPaths)};
   return {std::vector<std::string>(), std::move(i_nodes.ids)};
 }
+
+void EraseThoseIn(const std::set<std::string>& i_ids, std::vector<std::string>& io_ids)
+{
+  const auto isIn = [&i_ids](const std::string& i_id) { return i_ids.count(i_id) > 0; };
+  io_ids.erase(std::remove_if(io_ids.begin(), io_ids.end(), isIn), io_ids.end());
+}
 } // namespace
 
 // The rows of one request.
@@ -158,6 +164,7 @@ void OPXExplorerDirectorySource::RequestSelectionChange(const Records::Selection
   std::vector<std::string> added;
   std::vector<std::string> removed;
   Records::NodesPath refused;
+  const std::set<std::string> before = _selection;
   for (const std::string& id : i_change.GetRemovedNodes().ids)
     Deselect(id, removed);
   for (const Records::IndexPath& path : i_change.GetRemovedNodes().indexPaths)
@@ -168,6 +175,9 @@ void OPXExplorerDirectorySource::RequestSelectionChange(const Records::Selection
   for (const Records::IndexPath& path : i_change.GetAddedNodes().indexPaths)
     if (!Select(FindID(path), added))
       refused.indexPaths.push_back(path);
+  // What went and came back is as it was.
+  EraseThoseIn(before, added);
+  EraseThoseIn(_selection, removed);
   i_callback(MakeDeselection(std::move(refused)));
   RaiseSelectionChanged(std::move(added), std::move(removed));
 }

@@ -4,9 +4,13 @@
 #include "OPXTreeSession.h"
 
 #include <cstddef>
+#include <string>
 
 namespace
 {
+// Of the reason that is told, in bytes: the library quotes what it read last, which may be all of a message.
+constexpr std::size_t maxReason = 200;
+
 // The place after a text's closing quote; i_start is the place after the opening one.
 std::size_t SkipText(std::string_view i_text, std::size_t i_start)
 {
@@ -56,6 +60,6 @@ nlohmann::json OPXTreeMessageReader::Read(std::string_view i_text)
   }
   catch (const nlohmann::json::exception& error)
   {
-    throw OPXTreeError(OPXTreeError::ParseError, {{"reason", error.what()}});
+    throw OPXTreeError(OPXTreeError::ParseError, {{"reason", std::string(error.what()).substr(0, maxReason)}});
   }
 }

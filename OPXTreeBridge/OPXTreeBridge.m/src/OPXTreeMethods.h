@@ -23,6 +23,8 @@ public:
   // Sets the answer, at once or later. Throws an OPXTreeError when there is no such method or the parameters are wrong; lets
   // through what the source throws.
   void Call(const std::string& i_method, nlohmann::json& io_params, const std::shared_ptr<OPXTreeAnswer>& i_pAnswer);
+  // From here on no event is heard and no success callback waits.
+  void End() { _notifications.End(); }
 
 private:
   using Answer = std::shared_ptr<OPXTreeAnswer>;

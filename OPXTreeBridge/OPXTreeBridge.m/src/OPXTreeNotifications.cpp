@@ -38,8 +38,10 @@ void OPXTreeNotifications::Send(const char* i_method, nlohmann::json i_params, S
   if (i_successCallback)
     i_params["answerTo"] = Await(std::move(i_successCallback));
   const nlohmann::json message{{"jsonrpc", "2.0"}, {"method", i_method}, {"params", std::move(i_params)}};
+  // Held, and nothing else looked at any more: the output may destroy the session.
+  const std::shared_ptr<OPXTreeOutbox> pOutbox = _pOutbox;
   // A source's texts may be in any encoding.
-  _pOutbox->Send(message.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace));
+  pOutbox->Send(message.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace));
 }
 
 std::uint64_t OPXTreeNotifications::Await(SuccessCallback i_successCallback)
@@ -64,4 +66,10 @@ void OPXTreeNotifications::Succeed(nlohmann::json& io_params)
 {
   OPXTreeParametersCheck::CheckSucceeded(io_params);
   TakeAwaited(io_params["answerTo"].get<std::uint64_t>())(io_params["result"]);
+}
+
+void OPXTreeNotifications::End()
+{
+  _subscriptions.EndAll();
+  _awaited.clear();
 }

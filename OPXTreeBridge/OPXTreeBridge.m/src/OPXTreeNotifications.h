@@ -23,6 +23,8 @@ public:
   // Gives "result" (null when there is none) to the success callback of the notification that "answerTo" names. Throws an
   // OPXTreeError when none waits; lets through what the callback throws, which counts as called.
   void Succeed(nlohmann::json& io_params);
+  // From here on nothing is heard, and no success callback waits.
+  void End();
 
 private:
   using SuccessCallback = std::function<void(nlohmann::json&)>;

@@ -21,9 +21,15 @@ private:
 
 OPXTreeOutbox::OPXTreeOutbox(OPXTreeSession::Output i_output) : _output(std::move(i_output)) {}
 
+void OPXTreeOutbox::Close()
+{
+  _isClosed = true;
+  _messages.clear();
+}
+
 void OPXTreeOutbox::Send(std::string i_message)
 {
-  if (!i_message.empty())
+  if (!i_message.empty() && !_isClosed)
     _messages.push_back(std::move(i_message));
   SendAll();
 }
@@ -32,7 +38,7 @@ void OPXTreeOutbox::SendInAnswer(const std::function<std::string()>& i_makeAnswe
 {
   const std::size_t place = _messages.size();
   std::string answer = MakeAnswer(i_makeAnswer);
-  if (!answer.empty())
+  if (!answer.empty() && !_isClosed)
     _messages.insert(_messages.begin() + static_cast<std::ptrdiff_t>(place), std::move(answer));
   SendAll();
 }
@@ -53,7 +59,19 @@ void OPXTreeOutbox::SendAll()
   {
     const std::string message = std::move(_messages.front());
     _messages.pop_front();
+    SendNow(message);
+  }
+}
+
+void OPXTreeOutbox::SendNow(const std::string& i_message) const
+{
+  try
+  {
     if (_output)
-      _output(message);
+      _output(i_message);
+  }
+  catch (...)
+  {
+    // Those who come here raised an event, dropped a callback or asked for something else: none of them can mend an output.
   }
 }

@@ -3,30 +3,11 @@
 #include "OPXTreeSession.h"
 #include "OPXTreeValue.h"
 
-#include <cstdint>
-
 namespace
 {
-void NeedString(const OPXTreeValue& i_value)
-{
-  i_value.NeedString();
-}
-void NeedInt(const OPXTreeValue& i_value)
-{
-  i_value.NeedInt();
-}
-void NeedNumber(const OPXTreeValue& i_value)
-{
-  i_value.NeedNumber();
-}
-void NeedUnsigned(const OPXTreeValue& i_value)
-{
-  i_value.NeedInt(0, UINT32_MAX);
-}
-
 void NeedPath(const OPXTreeValue& i_value)
 {
-  i_value.NeedEach(NeedString);
+  i_value.NeedEach(&OPXTreeValue::NeedString);
 }
 void NeedPaths(const OPXTreeValue& i_value)
 {
@@ -72,7 +53,7 @@ void NeedEither(const OPXTreeValue& i_value, const char* i_first, const char* i_
 
 void NeedIndexPath(const OPXTreeValue& i_value)
 {
-  i_value.NeedEach(NeedNumber);
+  i_value.NeedEach(&OPXTreeValue::NeedNumber);
 }
 
 // A list of ids or a list of index paths, never a mixture; what is no array is ignored.
@@ -82,7 +63,7 @@ void CheckNodes(const OPXTreeValue& i_nodes)
     return;
   bool hasIDs = false;
   i_nodes.NeedEach([&hasIDs](const OPXTreeValue& i_node) { hasIDs = hasIDs || i_node.IsString(); });
-  i_nodes.NeedEach(hasIDs ? NeedString : NeedIndexPath);
+  hasIDs ? i_nodes.NeedEach(&OPXTreeValue::NeedString) : i_nodes.NeedEach(NeedIndexPath);
 }
 
 void NeedPointerType(const OPXTreeValue& i_value)
@@ -98,7 +79,7 @@ void OPXTreeParametersCheck::CheckStructure(nlohmann::json& io_params)
   params.NeedObject();
   params.IfMember("groupKeys", CheckGroupKeys);
   params.IfMember("sortModel", CheckSortModel);
-  params.IfMember("expandNLevels", NeedInt);
+  params.IfMember("expandNLevels", &OPXTreeValue::NeedInt);
 }
 
 void OPXTreeParametersCheck::CheckRows(nlohmann::json& io_params)
@@ -131,12 +112,12 @@ void OPXTreeParametersCheck::CheckPointerEvent(nlohmann::json& io_params)
 {
   const OPXTreeValue params(io_params);
   NeedPath(params.Member("idsPath"));
-  params.IfMember("type", NeedString);
+  params.IfMember("type", &OPXTreeValue::NeedString);
   params.IfMember("pointerType", NeedPointerType);
-  params.IfMember("modifiers", NeedUnsigned);
-  params.IfMember("button", NeedUnsigned);
-  params.IfMember("hitCount", NeedUnsigned);
-  params.IfMember("dataIndex", NeedString);
+  params.IfMember("modifiers", &OPXTreeValue::NeedUnsigned);
+  params.IfMember("button", &OPXTreeValue::NeedUnsigned);
+  params.IfMember("hitCount", &OPXTreeValue::NeedUnsigned);
+  params.IfMember("dataIndex", &OPXTreeValue::NeedString);
 }
 
 void OPXTreeParametersCheck::CheckSucceeded(nlohmann::json& io_params)

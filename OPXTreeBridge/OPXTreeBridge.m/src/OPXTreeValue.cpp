@@ -22,16 +22,21 @@ void OPXTreeValue::NeedString() const
   Need(_value.is_string(), "string");
 }
 
-void OPXTreeValue::NeedNumber(std::int64_t i_min, std::int64_t i_max) const
+void OPXTreeValue::NeedNumber() const
 {
-  Need(_value.is_number(), "number");
-  Clamp(i_min, i_max);
+  NeedNumberIn(INT32_MIN, INT32_MAX);
 }
 
-void OPXTreeValue::NeedInt(std::int64_t i_min, std::int64_t i_max) const
+void OPXTreeValue::NeedInt() const
 {
   if (!_value.is_boolean())
-    NeedNumber(i_min, i_max);
+    NeedNumber();
+}
+
+void OPXTreeValue::NeedUnsigned() const
+{
+  if (!_value.is_boolean())
+    NeedNumberIn(0, UINT32_MAX);
 }
 
 OPXTreeValue OPXTreeValue::Member(const char* i_key) const
@@ -42,8 +47,9 @@ OPXTreeValue OPXTreeValue::Member(const char* i_key) const
   return OPXTreeValue(_value[i_key], _place + "/" + i_key);
 }
 
-void OPXTreeValue::Clamp(std::int64_t i_min, std::int64_t i_max) const
+void OPXTreeValue::NeedNumberIn(std::int64_t i_min, std::int64_t i_max) const
 {
+  Need(_value.is_number(), "number");
   // A floating copy tells on which side a number of any kind lies; ends of 32 bits are exact in it.
   const double number = _value.get<double>();
   if (number < static_cast<double>(i_min))

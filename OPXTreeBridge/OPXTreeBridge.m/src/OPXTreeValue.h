@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <nlohmann/json.hpp>
 #include <string>
 
@@ -24,10 +25,12 @@ public:
 
   void NeedObject() const;
   void NeedString() const;
-  // A number that is out of the range becomes the nearest end of it, so that no conversion overflows.
-  void NeedNumber(std::int64_t i_min = INT32_MIN, std::int64_t i_max = INT32_MAX) const;
+  // A number that is out of the range of 32 bits becomes the nearest end of it, so that no conversion overflows.
+  void NeedNumber() const;
   // A number as above, or a boolean, which counts as 0 or 1.
-  void NeedInt(std::int64_t i_min = INT32_MIN, std::int64_t i_max = INT32_MAX) const;
+  void NeedInt() const;
+  // The same for 32 bits without a sign.
+  void NeedUnsigned() const;
   // A member that must be there.
   OPXTreeValue Member(const char* i_key) const;
 
@@ -36,7 +39,7 @@ public:
   void IfMember(const char* i_key, Test i_test) const
   {
     if (Has(i_key))
-      i_test(Member(i_key));
+      std::invoke(i_test, Member(i_key));
   }
   // Runs the test on each element; the value must be an array.
   template <class Test>
@@ -44,13 +47,13 @@ public:
   {
     Need(IsArray(), "array");
     for (std::size_t i = 0; i < _value.size(); ++i)
-      i_test(OPXTreeValue(_value[i], _place + "/" + std::to_string(i)));
+      std::invoke(i_test, OPXTreeValue(_value[i], _place + "/" + std::to_string(i)));
   }
   // i_expected: what the value should have been.
   void Need(bool i_holds, const char* i_expected) const;
 
 private:
-  void Clamp(std::int64_t i_min, std::int64_t i_max) const;
+  void NeedNumberIn(std::int64_t i_min, std::int64_t i_max) const;
 
   nlohmann::json& _value;
   std::string _place;
