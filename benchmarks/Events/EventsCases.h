@@ -1,5 +1,5 @@
 // The cases every contender is put through, so that all are measured by the same lines: RegisterCases<World, Crowd>.
-// void RegisterSigc(const std::string& i_state) { RegisterCases<SigcWorld, SigcCrowd>("sigc++", i_state); }
+// void RegisterQt(const std::string& i_state) { RegisterCases<QtWorld, QtCrowd>("Qt", i_state); }
 //
 // A World(depth, observer) is a chain of nodes, 0 is the origin, and has
 //   AddHandler(node)      one handler more, which tells the observer the payload's amount
