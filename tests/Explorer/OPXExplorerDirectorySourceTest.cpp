@@ -178,6 +178,7 @@ TEST(OPXExplorerDirectorySourceTest, HostileKeysLeadNowhere)
                                  std::string("inside::$INDEX_ALLOCATION"),
                                  std::string("\\\\?\\C:\\"),
                                  std::string(100000, 'x'),
+                                 "inside" + std::string(32768, 'x'),
                                  std::string("%69nside"),
                                  std::string("/inside"),
                                  std::string("/%69nside"),

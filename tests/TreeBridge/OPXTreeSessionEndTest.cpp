@@ -36,9 +36,19 @@ protected:
     return [this](json&) { session.reset(); };
   }
 
+  // A session of the other source that its first success callback owns.
+  OPXTreeSession& RaiseWithOwner()
+  {
+    const auto pOwned = std::make_shared<std::optional<OPXTreeSession>>();
+    pOwned->emplace(other, [this](const std::string& i_message) { sent.push_back(i_message); });
+    other.RaiseModel(1, [pOwned](json&) {});
+    return **pOwned;
+  }
+
   std::function<void()> whenSent = [] {};
   std::vector<std::string> sent;
   RaisingSource source;
+  RaisingSource other;
   std::optional<OPXTreeSession> session;
 };
 
@@ -137,14 +147,17 @@ TEST_F(OPXTreeSessionEndTest, AnOutputThatEndsItWithALateAnswerGetsNoMore)
   EXPECT_THAT(sent, SizeIs(1));
 }
 
-TEST_F(OPXTreeSessionEndTest, WhatItEndsMayOwnIt)
+TEST_F(OPXTreeSessionEndTest, ASuccessCallbackMayOwnIt)
 {
-  RaisingSource other;
-  auto pOwned = std::make_shared<std::optional<OPXTreeSession>>();
-  pOwned->emplace(other, [this](const std::string& i_message) { sent.push_back(i_message); });
-  std::optional<OPXTreeSession>& owned = *pOwned;
-  other.RaiseModel(1, [pOwned](json&) {});
-  pOwned.reset();
-  owned->Receive(succeeded);
+  OPXTreeSession& owned = RaiseWithOwner();
+  owned.Receive(succeeded);
   EXPECT_THAT(sent, SizeIs(1));
+}
+
+TEST_F(OPXTreeSessionEndTest, ASuccessCallbackThatIsGivenUpMayOwnIt)
+{
+  RaiseWithOwner();
+  for (std::size_t i = 0; i <= OPXTreeSession::MaxAwaited; ++i)
+    other.RaiseModel(i, [](json&) {});
+  EXPECT_THAT(sent, SizeIs(OPXTreeSession::MaxAwaited));
 }

@@ -33,23 +33,25 @@ OPXTreeNotifications::OPXTreeNotifications(ZELSYPAbstractDataSource& io_source, 
       });
 }
 
+// The outbox is held, and nothing else looked at in the end: what is given up may own the session, and the output may
+// destroy it.
 void OPXTreeNotifications::Send(const char* i_method, nlohmann::json i_params, SuccessCallback i_successCallback)
 {
+  const std::shared_ptr<OPXTreeOutbox> pOutbox = _pOutbox;
   if (i_successCallback)
     i_params["answerTo"] = Await(std::move(i_successCallback));
   const nlohmann::json message{{"jsonrpc", "2.0"}, {"method", i_method}, {"params", std::move(i_params)}};
-  // Held, and nothing else looked at any more: the output may destroy the session.
-  const std::shared_ptr<OPXTreeOutbox> pOutbox = _pOutbox;
   // A source's texts may be in any encoding.
   pOutbox->Send(message.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace));
 }
 
 std::uint64_t OPXTreeNotifications::Await(SuccessCallback i_successCallback)
 {
-  if (_awaited.size() == OPXTreeSession::MaxAwaited)
-    _awaited.erase(_awaited.begin());
-  _awaited.emplace(++_lastNumber, std::move(i_successCallback));
-  return _lastNumber;
+  const std::uint64_t number = ++_lastNumber;
+  _awaited.emplace(number, std::move(i_successCallback));
+  // No number is 0: nothing is given up then.
+  const auto givenUp = _awaited.extract(_awaited.size() > OPXTreeSession::MaxAwaited ? _awaited.begin()->first : 0);
+  return number;
 }
 
 OPXTreeNotifications::SuccessCallback OPXTreeNotifications::TakeAwaited(std::uint64_t i_number)

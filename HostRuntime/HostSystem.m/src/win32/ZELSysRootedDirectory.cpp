@@ -4,6 +4,7 @@
 #include "FileTimes.h"
 #include "SettledTime.h"
 
+#include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>
@@ -16,6 +17,8 @@ namespace
 constexpr ACCESS_MASK directoryAccess = FILE_LIST_DIRECTORY | FILE_TRAVERSE | FILE_READ_ATTRIBUTES | SYNCHRONIZE;
 // A colon would name a drive or a stream inside a file.
 constexpr std::string_view separators("/\\:\0", 4);
+// In UTF-16 units, far more than any name has: the system counts a text's bytes in 16 bits.
+constexpr std::size_t maxName = 0x7FFF;
 constexpr ULONG shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 HANDLE AsHandle(std::intptr_t i_handle)
@@ -37,6 +40,8 @@ ZELSysRootedDirectory::Kind GetKind(DWORD i_attributes)
 std::intptr_t OpenEntry(std::intptr_t i_directory, std::string_view i_name, ACCESS_MASK i_access, ULONG i_options)
 {
   std::u16string name = ZELUnicodeString::FromUTF8(i_name).ToUTF16();
+  if (name.size() > maxName)
+    return reinterpret_cast<std::intptr_t>(INVALID_HANDLE_VALUE);
   UNICODE_STRING text;
   text.Buffer = reinterpret_cast<wchar_t*>(name.data());
   text.Length = text.MaximumLength = static_cast<USHORT>(name.size() * sizeof(char16_t));
