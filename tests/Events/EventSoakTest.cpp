@@ -1,7 +1,8 @@
 // Random operations on nodes, stores, handlers and dispatches, from outside and from within handlers, each compared with
-// EventModel as it happens. OPX_SOAK_OPERATIONS=10000000 asks for more of them than an ordinary test makes.
+// EventModel as it happens.
 #include "EventModel.h"
 #include "RecordingFailureHandler.h"
+#include "SoakOperations.h"
 
 #include "ZELHandle.h"
 #include "ZELSYPClassEventHandlersSupport.h"
@@ -19,7 +20,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <cstdlib>
 #include <iterator>
 #include <map>
 #include <memory>
@@ -656,18 +656,13 @@ void Soak::CheckWhoLives()
 class EventSoakTest : public testing::TestWithParam<int>
 {
 protected:
-  static long GetOperations()
-  {
-    const char* const pAsked = std::getenv("OPX_SOAK_OPERATIONS");
-    return (pAsked ? std::atol(pAsked) : s_ordinaryOperations) / s_seeds;
-  }
   static constexpr int s_seeds = 4;
 };
 
 TEST_P(EventSoakTest, RandomOperationsAgreeWithTheModelStepByStepAndLeaveNothingBehind)
 {
   Soak soak(static_cast<std::uint64_t>(GetParam()));
-  soak.Run(GetOperations());
+  soak.Run(GetSoakOperations(s_ordinaryOperations) / s_seeds);
   EXPECT_EQ(soak.GetDisagreement(), "");
   EXPECT_EQ(soak.Close(), 0) << "references on events that nobody gave back";
   EXPECT_EQ(SoakNode::s_living, 0);
