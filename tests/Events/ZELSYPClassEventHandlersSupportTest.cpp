@@ -1,5 +1,6 @@
 #include "ZELSYPClassEventHandlersSupport.h"
 
+#include "LastWords.h"
 #include "MeddlingFailureHandler.h"
 #include "OpenStores.h"
 #include "RecordingFailureHandler.h"
@@ -14,17 +15,6 @@ using testing::IsEmpty;
 
 namespace
 {
-// A handler that does something when it dies.
-class LastWords : public CountedHandler
-{
-public:
-  explicit LastWords(std::function<void()> i_words) : _words(std::move(i_words)) {}
-  ~LastWords() override { _words(); }
-
-private:
-  const std::function<void()> _words;
-};
-
 class ZELSYPClassEventHandlersSupportTest : public testing::Test, protected RouteWorld
 {
 protected:

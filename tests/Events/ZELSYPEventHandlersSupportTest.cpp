@@ -1,5 +1,6 @@
 #include "ZELSYPEventHandlersSupport.h"
 
+#include "LastWords.h"
 #include "MeddlingFailureHandler.h"
 #include "OpenStores.h"
 #include "RecordingFailureHandler.h"
@@ -17,17 +18,6 @@ using testing::Not;
 
 namespace
 {
-// A handler that does something when it dies.
-class LastWords : public CountedHandler
-{
-public:
-  explicit LastWords(std::function<void()> i_words) : _words(std::move(i_words)) {}
-  ~LastWords() override { _words(); }
-
-private:
-  const std::function<void()> _words;
-};
-
 class ZELSYPEventHandlersSupportTest : public testing::Test, protected RouteWorld
 {
 protected:
