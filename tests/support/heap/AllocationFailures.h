@@ -1,12 +1,10 @@
 // AllocationFailures: while it lives, memory asked for without exceptions is refused.
 // { AllocationFailures refused; array.Append(1); }      or AllocationFailures refused(2): the first two requests are granted
 //
-// Everything that is linked into the test program obeys: the headers compiled into it, and the host's hash table, which
-// the program has a copy of. Other libraries go on as they were. One thread at a time.
+// Everything that is linked into the test program obeys: the headers compiled into it, and the sources that it has a copy
+// of (opx_wrap_heap). Other libraries go on as they were. One thread at a time.
 #ifndef AllocationFailures_H
 #define AllocationFailures_H
-
-#include <new>
 
 class AllocationFailures
 {
@@ -24,8 +22,8 @@ public:
   static bool IsRefusing() noexcept { return s_refusing && s_granted-- <= 0; }
 
 private:
-  static bool s_refusing;
-  static int s_granted;
+  static inline bool s_refusing = false;
+  static inline int s_granted = 0;
 };
 
 #endif

@@ -1,7 +1,7 @@
 // HeapRequests: how often what is linked into this program asked the heap for memory, and how much it holds.
 // const long before = HeapRequests::GetCount(); Raise(); EXPECT_EQ(before, HeapRequests::GetCount());
 //
-// Counted on all threads together. A growing or shrinking block is a request.
+// Counted on all threads together, in a program with opx_wrap_heap. A growing or shrinking block is a request.
 #ifndef HeapRequests_H
 #define HeapRequests_H
 
@@ -22,8 +22,8 @@ public:
   static void GaveBack(const void* i_pBlock) noexcept { s_held -= i_pBlock != nullptr; }
 
 private:
-  static std::atomic<long> s_count;
-  static std::atomic<long> s_held;
+  static inline std::atomic<long> s_count{0};
+  static inline std::atomic<long> s_held{0};
 };
 
 #endif
