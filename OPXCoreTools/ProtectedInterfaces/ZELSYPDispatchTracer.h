@@ -2,8 +2,10 @@
 // ZELSYPDispatchTracer tracer([](const std::string& i_line) { std::cerr << i_line << '\n'; });
 //
 // A handler "runs"; it "consumes" if the arguments are consumed when it returns and were not before; it is "passed over"
-// because they were. Steps of a nested dispatch stand between the line of the handler that raised it and that handler's
-// "consumes". Several may live at once. Without one, a dispatch costs what it always does. UI thread.
+// because they were. A "class handler" was registered for a class, an "instance handler" for none: a line says what a
+// handler was registered for, also where a store took it over from another one. The position counts within the list.
+// Steps of a nested dispatch stand between the line of the handler that raised it and that handler's "consumes". Several
+// may live at once. Without one, a dispatch costs what it always does. UI thread.
 #ifndef ZELSYPDispatchTracer_H
 #define ZELSYPDispatchTracer_H
 
@@ -24,9 +26,11 @@ class ZELSYPDispatchTracer final : public ZELSYPDispatchObserver
 public:
   enum class Format
   {
-    // runs Door.Opened at Door@0x5581, list 0, position 1: ZELSYPEventHandler@0x5582
+    // runs Door.Opened at Door@0x5581, class handler of Furniture, position 1: Bell@0x5582
+    // runs Door.Opened at Door@0x5581, instance handler, position 0: Bell@0x5583
     Text,
-    // {"step":"runs","event":"Door.Opened","node":"Door@0x5581","list":0,"position":1,"handler":"ZELSYPEventHandler@0x5582"}
+    // {"step":"runs","event":"Door.Opened","node":"Door@0x5581","list":0,"class":"Furniture","position":1,"handler":"Bell@0x5582"}
+    // {"step":"runs","event":"Door.Opened","node":"Door@0x5581","list":1,"class":null,"position":0,"handler":"Bell@0x5583"}
     JSON
   };
 
@@ -79,7 +83,7 @@ private:
   static std::string AsText(const char* i_what, const Step& i_step)
   {
     std::ostringstream line;
-    line << i_what << ' ' << NameOfEvent(i_step) << " at " << NameOf(i_step._stop.GetNode()) << ", list " << i_step._list << ", position "
+    line << i_what << ' ' << NameOfEvent(i_step) << " at " << NameOf(i_step._stop.GetNode()) << ", " << KindOf(i_step) << ", position "
          << i_step._index << ": " << NameOf(i_step._info.GetHandler());
     return line.str();
   }
@@ -88,14 +92,24 @@ private:
   {
     std::ostringstream line;
     line << R"({"step":")" << i_what << R"(","event":")" << NameOfEvent(i_step) << R"(","node":")" << NameOf(i_step._stop.GetNode())
-         << R"(","list":)" << i_step._list << R"(,"position":)" << i_step._index << R"(,"handler":")" << NameOf(i_step._info.GetHandler())
-         << R"("})";
+         << R"(","list":)" << i_step._list << R"(,"class":)" << ClassAsJSON(i_step) << R"(,"position":)" << i_step._index
+         << R"(,"handler":")" << NameOf(i_step._info.GetHandler()) << R"("})";
     return line.str();
   }
   static std::string NameOfEvent(const Step& i_step)
   {
     const ZELSYPEvent* const pEvent = i_step._args.GetEvent();
     return pEvent ? std::string(pEvent->GetOwnerClass()->GetName()) + "." + pEvent->GetName() : "no event";
+  }
+  static std::string KindOf(const Step& i_step)
+  {
+    const ZELMetaClass* const pClass = i_step._info.GetRegisteredClass();
+    return pClass ? std::string("class handler of ") + pClass->GetName() : "instance handler";
+  }
+  static std::string ClassAsJSON(const Step& i_step)
+  {
+    const ZELMetaClass* const pClass = i_step._info.GetRegisteredClass();
+    return pClass ? std::string("\"") + pClass->GetName() + '"' : "null";
   }
   static std::string NameOf(const ZELBaseUnknown* i_pObject)
   {

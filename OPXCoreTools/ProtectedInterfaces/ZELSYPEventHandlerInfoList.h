@@ -11,6 +11,7 @@
 
 #include <utility>
 
+class ZELMetaClass;
 class ZELSYPEventHandler;
 class ZELSYPEventHandlerInfo;
 
@@ -60,7 +61,9 @@ private:
   ZELSYPEventHandlerInfo* const* begin() const noexcept { return _pSharedData ? _pSharedData->_handlers.begin() : nullptr; }
   ZELSYPEventHandlerInfo* const* end() const noexcept { return _pSharedData ? _pSharedData->_handlers.end() : nullptr; }
 
-  // The same; what is taken out lives as long as io_removed, since the end of a handler may run code that destroys this list.
+  // AddHandler with a registration for a class; null: for none.
+  void AddHandler(ZELSYPEventHandler* i_pHandler, int i_handleConsumedEvents, const ZELMetaClass* i_pRegisteredClass);
+  // AutoRemove; what is taken out lives as long as io_removed, since the end of a handler may run code that destroys this list.
   void AutoRemove(ZELSYPEventHandlerInfoList& io_removed);
   void RemoveInto(ZELSYPEventHandlerInfoList& io_removed, int i_index, ZELSYPEventHandlerInfo* i_pInfo);
   bool HasInfoAt(int i_index) const;

@@ -10,6 +10,7 @@
 #include "ZELSYPEventHandlerInfoList.h"
 #include "ZELSYPHashMap.h"
 
+class ZELMetaClass;
 class ZELSYPEvent;
 class ZELSYPEventHandler;
 
@@ -47,8 +48,11 @@ protected:
 
 private:
   friend class ZELSYPSupportsEventPathBuilder;
+  friend class ZELSYPClassEventHandlersSupport;
   typedef ZELSYPArray<ZELSYPEventHandlerInfoList> Lists;
 
+  // The store of a class.
+  explicit ZELSYPEventHandlersSupport(const ZELMetaClass* i_pClass);
   ZELSYPEventHandlerInfoList* FindOrAddList(ZELSYPEvent* i_pEvent);
   void StoreList(ZELSYPEvent* i_pEvent, const ZELSYPEventHandlerInfoList& i_list);
   static void ReleaseEvent(ZELSYPEvent& io_event);
@@ -75,6 +79,8 @@ private:
 
   ZELSYPEvent* _pLastEvent = nullptr;
   ZELSYPEventHandlerInfoList* _pLastList = nullptr;
+  // What the registrations made here are for; null: no class.
+  const ZELMetaClass* const _pClass = nullptr;
   // A handler that dies with the store can add none any more.
   bool _isGoing = false;
 };

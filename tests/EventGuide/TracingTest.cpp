@@ -12,7 +12,7 @@ TEST(Tracing, ATracerWritesALineForEachStep)
 {
   std::ostringstream log;
   Door door;
-  const ZELSYPSubscription log1 = ZELSYPSubscribe(door, Door::OpenedEvent(), [](ZELSYPEventArgs*) {});
+  const ZELSYPSubscription log1 = ZELSYPSubscribeClass<Door>(Door::OpenedEvent(), [](ZELSYPEventArgs*) {});
   const ZELSYPSubscription greeting = ZELSYPSubscribe(door, Door::OpenedEvent(), [](ZELSYPEventArgs* i_pArgs) { i_pArgs->Consume(); });
   const ZELSYPSubscription log2 = ZELSYPSubscribe(door, Door::OpenedEvent(), [](ZELSYPEventArgs*) {});
   {
@@ -21,10 +21,10 @@ TEST(Tracing, ATracerWritesALineForEachStep)
   }
   door.Open("Bob"); // writes nothing
   EXPECT_EQ(std::regex_replace(log.str(), std::regex("@[0-9a-fxA-F]+"), "@1"),
-            "runs Door.Opened at Door@1, list 0, position 0: ZELSYPEventHandler@1\n"
-            "runs Door.Opened at Door@1, list 0, position 1: ZELSYPEventHandler@1\n"
-            "consumes Door.Opened at Door@1, list 0, position 1: ZELSYPEventHandler@1\n"
-            "passed over Door.Opened at Door@1, list 0, position 2: ZELSYPEventHandler@1\n");
+            "runs Door.Opened at Door@1, class handler of Door, position 0: ZELSYPEventHandler@1\n"
+            "runs Door.Opened at Door@1, instance handler, position 0: ZELSYPEventHandler@1\n"
+            "consumes Door.Opened at Door@1, instance handler, position 0: ZELSYPEventHandler@1\n"
+            "passed over Door.Opened at Door@1, instance handler, position 1: ZELSYPEventHandler@1\n");
 }
 
 TEST(Tracing, ATracerThatIsMadeAfterTheDispatchSaysNothing)

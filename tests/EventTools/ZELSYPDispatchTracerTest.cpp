@@ -1,6 +1,7 @@
 #include "ZELSYPDispatchTracer.h"
 
 #include "EventWorld.h"
+#include "ZELSYPSingleEventPathBuilder.h"
 #include "ZELSYPSubscribe.h"
 
 #include <nlohmann/json.hpp>
@@ -14,8 +15,31 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
+class LoudListener : public Listener
+{
+  ZELDeclareClass;
+};
+ZELImplementClass(LoudListener, Listener, EventTools_tests);
+
 namespace
 {
+void Consume(ZELSYPEventArgs* i_pArgs)
+{
+  i_pArgs->Consume();
+}
+
+void Throw(ZELSYPEventArgs*)
+{
+  throw 7;
+}
+
+// The line of a handler that was registered on the listener.
+std::string Line(const std::string& i_step, const std::string& i_event, int i_position)
+{
+  return i_step + " Listener." + i_event + " at Listener, instance handler, position " + std::to_string(i_position) +
+         ": ZELSYPEventHandler";
+}
+
 class ZELSYPDispatchTracerTest : public testing::Test
 {
 protected:
@@ -24,6 +48,18 @@ protected:
   {
     return [this](const std::string& i_line) { lines.push_back(std::regex_replace(i_line, std::regex("@(0x)?[0-9a-fA-F]+"), "")); };
   }
+  // What a tracer writes of an Opened that the listener raises.
+  std::vector<std::string> Trace(Listener& io_listener)
+  {
+    const ZELSYPDispatchTracer tracer(Writing());
+    Raise(io_listener);
+    return std::exchange(lines, {});
+  }
+  template <class Callable>
+  void When(ZELSYPEvent* i_pEvent, Callable i_callable)
+  {
+    listener.AddHandler(i_pEvent, ZELSYPMakeHandler(i_callable), 0);
+  }
 
   std::vector<std::string> lines;
   Runs runs;
@@ -31,73 +67,81 @@ protected:
 };
 } // namespace
 
-TEST_F(ZELSYPDispatchTracerTest, SaysWhoRunsWhere)
+TEST_F(ZELSYPDispatchTracerTest, SaysWhoRunsWhereAndForWhichClassItWasRegistered)
 {
-  const ZELSYPSubscription ofClass = ZELSYPSubscribeClass<Listener>(Opened(), runs.Adding("class"));
-  listener.AddHandler(Opened(), runs.Note("first"), 0);
-  listener.AddHandler(Opened(), runs.Note("second"), 0);
+  const ZELSYPSubscription ofListeners = ZELSYPSubscribeClass<Listener>(Opened(), runs.Adding("class"));
+  const ZELSYPSubscription ofLoudOnes = ZELSYPSubscribeClass<LoudListener>(Opened(), runs.Adding("derived class"));
+  LoudListener loud;
+  loud.AddHandler(Opened(), runs.Note("first"), 0);
+  loud.AddHandler(Opened(), runs.Note("second"), 0);
+  EXPECT_THAT(Trace(loud),
+              ElementsAre("runs Listener.Opened at LoudListener, class handler of LoudListener, position 0: ZELSYPEventHandler",
+                          "runs Listener.Opened at LoudListener, class handler of Listener, position 0: ZELSYPEventHandler",
+                          "runs Listener.Opened at LoudListener, instance handler, position 0: ZELSYPEventHandler",
+                          "runs Listener.Opened at LoudListener, instance handler, position 1: ZELSYPEventHandler"));
+}
+
+TEST_F(ZELSYPDispatchTracerTest, SaysForWhichClassAHandlerWasRegisteredThatTheNodeTookOver)
+{
+  ZELSYPClassEventHandlersSupport ofClasses;
+  ofClasses.AddClassHandler(Listener::MetaObject(), Opened(), runs.Note("class"), 0);
+  ZELSYPEventHandlersSupport own;
+  own.ReplaceHandlers(*ofClasses.GetClassHandlersSupport(Listener::MetaObject()));
   const ZELSYPDispatchTracer tracer(Writing());
-  Raise(listener);
-  EXPECT_THAT(lines, ElementsAre("runs Listener.Opened at Listener, list 0, position 0: ZELSYPEventHandler",
-                                 "runs Listener.Opened at Listener, list 1, position 0: ZELSYPEventHandler",
-                                 "runs Listener.Opened at Listener, list 1, position 1: ZELSYPEventHandler"));
+  ZELSYPEventArgs args(Opened());
+  ZELSYPSingleEventPathBuilder(&own, nullptr).Dispatch(&listener, &args);
+  EXPECT_THAT(lines, ElementsAre("runs Listener.Opened at Listener, class handler of Listener, position 0: ZELSYPEventHandler"));
 }
 
 TEST_F(ZELSYPDispatchTracerTest, SaysWhoConsumesAndWhoIsPassedOver)
 {
-  listener.AddHandler(Opened(), ZELSYPMakeHandler([](ZELSYPEventArgs* i_pArgs) { i_pArgs->Consume(); }), 0);
-  listener.AddHandler(Opened(), runs.Note("plain"), 0);
+  When(Opened(), Consume);
+  When(Opened(), runs.Adding("plain"));
   listener.AddHandler(Opened(), runs.Note("eager"), 1);
-  const ZELSYPDispatchTracer tracer(Writing());
-  Raise(listener);
-  EXPECT_THAT(lines, ElementsAre("runs Listener.Opened at Listener, list 0, position 0: ZELSYPEventHandler",
-                                 "consumes Listener.Opened at Listener, list 0, position 0: ZELSYPEventHandler",
-                                 "passed over Listener.Opened at Listener, list 0, position 1: ZELSYPEventHandler",
-                                 "runs Listener.Opened at Listener, list 0, position 2: ZELSYPEventHandler"));
+  EXPECT_THAT(Trace(listener), ElementsAre(Line("runs", "Opened", 0), Line("consumes", "Opened", 0), Line("passed over", "Opened", 1),
+                                           Line("runs", "Opened", 2)));
 }
 
 TEST_F(ZELSYPDispatchTracerTest, PutsNestedStepsBetweenThoseOfTheHandlerThatRaisedThem)
 {
-  listener.AddHandler(Opened(),
-                      ZELSYPMakeHandler(
-                          [&](ZELSYPEventArgs* i_pArgs)
-                          {
-                            RaiseNumber(listener, 1);
-                            i_pArgs->Consume();
-                          }),
-                      0);
-  listener.AddHandler(Counted(), ZELSYPMakeHandler([](ZELSYPEventArgs* i_pArgs) { i_pArgs->Consume(); }), 0);
-  const ZELSYPDispatchTracer tracer(Writing());
-  Raise(listener);
-  EXPECT_THAT(lines, ElementsAre("runs Listener.Opened at Listener, list 0, position 0: ZELSYPEventHandler",
-                                 "runs Listener.Counted at Listener, list 0, position 0: ZELSYPEventHandler",
-                                 "consumes Listener.Counted at Listener, list 0, position 0: ZELSYPEventHandler",
-                                 "consumes Listener.Opened at Listener, list 0, position 0: ZELSYPEventHandler"));
+  When(Opened(),
+       [&](ZELSYPEventArgs* i_pArgs)
+       {
+         RaiseNumber(listener, 1);
+         i_pArgs->Consume();
+       });
+  When(Counted(), Consume);
+  EXPECT_THAT(Trace(listener), ElementsAre(Line("runs", "Opened", 0), Line("runs", "Counted", 0), Line("consumes", "Counted", 0),
+                                           Line("consumes", "Opened", 0)));
 }
 
 TEST_F(ZELSYPDispatchTracerTest, WritesJSON)
 {
-  listener.AddHandler(Opened(), runs.Note("handler"), 0);
+  const ZELSYPSubscription ofClass = ZELSYPSubscribeClass<Listener>(Opened(), runs.Adding("class"));
+  When(Opened(), runs.Adding("own"));
   const ZELSYPDispatchTracer tracer(Writing(), ZELSYPDispatchTracer::Format::JSON);
   Raise(listener);
-  ASSERT_THAT(lines, SizeIs(1));
+  ASSERT_THAT(lines, SizeIs(2));
   EXPECT_EQ(nlohmann::json::parse(lines[0]), nlohmann::json::parse(R"({"step": "runs", "event": "Listener.Opened", "node": "Listener",
-                                             "list": 0, "position": 0, "handler": "ZELSYPEventHandler"})"));
+                                             "list": 0, "class": "Listener", "position": 0, "handler": "ZELSYPEventHandler"})"));
+  EXPECT_EQ(nlohmann::json::parse(lines[1]), nlohmann::json::parse(R"({"step": "runs", "event": "Listener.Opened", "node": "Listener",
+                                             "list": 1, "class": null, "position": 0, "handler": "ZELSYPEventHandler"})"));
 }
 
 TEST_F(ZELSYPDispatchTracerTest, TellsNodesAndHandlersApart)
 {
-  listener.AddHandler(Opened(), runs.Note("handler"), 0);
+  When(Opened(), runs.Adding("handler"));
   std::string line;
   const ZELSYPDispatchTracer tracer([&](const std::string& i_line) { line = i_line; });
   Raise(listener);
-  const std::regex expected("runs Listener.Opened at Listener@[0-9a-fxA-F]+, list 0, position 0: ZELSYPEventHandler@[0-9a-fxA-F]+");
+  const std::regex expected("runs Listener.Opened at Listener@[0-9a-fxA-F]+, instance handler, position 0: "
+                            "ZELSYPEventHandler@[0-9a-fxA-F]+");
   EXPECT_TRUE(std::regex_match(line, expected)) << line;
 }
 
 TEST_F(ZELSYPDispatchTracerTest, SaysNothingOnceItIsGone)
 {
-  listener.AddHandler(Opened(), runs.Note("handler"), 0);
+  When(Opened(), runs.Adding("handler"));
   {
     const ZELSYPDispatchTracer tracer(Writing());
   }
@@ -108,8 +152,8 @@ TEST_F(ZELSYPDispatchTracerTest, SaysNothingOnceItIsGone)
 TEST_F(ZELSYPDispatchTracerTest, MayGoWhileAHandlerRuns)
 {
   std::optional<ZELSYPDispatchTracer> tracer(std::in_place, Writing());
-  listener.AddHandler(Opened(), ZELSYPMakeHandler([&](ZELSYPEventArgs*) { tracer.reset(); }), 0);
-  listener.AddHandler(Opened(), runs.Note("after"), 0);
+  When(Opened(), [&](ZELSYPEventArgs*) { tracer.reset(); });
+  When(Opened(), runs.Adding("after"));
   Raise(listener);
   EXPECT_THAT(lines, SizeIs(1));
   EXPECT_THAT(runs.Take(), ElementsAre("after"));
@@ -118,27 +162,25 @@ TEST_F(ZELSYPDispatchTracerTest, MayGoWhileAHandlerRuns)
 TEST_F(ZELSYPDispatchTracerTest, MayComeWhileAHandlerRuns)
 {
   std::optional<ZELSYPDispatchTracer> tracer;
-  listener.AddHandler(Opened(), ZELSYPMakeHandler([&](ZELSYPEventArgs*) { tracer.emplace(Writing()); }), 0);
-  listener.AddHandler(Opened(), runs.Note("after"), 0);
+  When(Opened(), [&](ZELSYPEventArgs*) { tracer.emplace(Writing()); });
+  When(Opened(), runs.Adding("after"));
   Raise(listener);
-  EXPECT_THAT(lines, ElementsAre("runs Listener.Opened at Listener, list 0, position 1: ZELSYPEventHandler"));
+  EXPECT_THAT(lines, ElementsAre(Line("runs", "Opened", 1)));
 }
 
 TEST_F(ZELSYPDispatchTracerTest, GoesOnAfterAHandlerHasThrown)
 {
-  listener.AddHandler(Opened(), ZELSYPMakeHandler([](ZELSYPEventArgs*) { throw 7; }), 0);
-  listener.AddHandler(Counted(), ZELSYPMakeHandler([](ZELSYPEventArgs* i_pArgs) { i_pArgs->Consume(); }), 0);
+  When(Opened(), Throw);
+  When(Counted(), Consume);
   const ZELSYPDispatchTracer tracer(Writing());
   EXPECT_THROW(Raise(listener), int);
   RaiseNumber(listener, 1);
-  EXPECT_THAT(lines, ElementsAre("runs Listener.Opened at Listener, list 0, position 0: ZELSYPEventHandler",
-                                 "runs Listener.Counted at Listener, list 0, position 0: ZELSYPEventHandler",
-                                 "consumes Listener.Counted at Listener, list 0, position 0: ZELSYPEventHandler"));
+  EXPECT_THAT(lines, ElementsAre(Line("runs", "Opened", 0), Line("runs", "Counted", 0), Line("consumes", "Counted", 0)));
 }
 
 TEST_F(ZELSYPDispatchTracerTest, IsNotToldOfWhatItsWriterRaises)
 {
-  listener.AddHandler(Opened(), runs.Note("handler"), 0);
+  When(Opened(), runs.Adding("handler"));
   int written = 0;
   const ZELSYPDispatchTracer tracer(
       [&](const std::string&)
@@ -162,8 +204,8 @@ TEST_F(ZELSYPDispatchTracerTest, MayBeDestroyedByItsWriter)
         tracer.reset();
         line = *pOwned;
       });
-  listener.AddHandler(Opened(), runs.Note("first"), 0);
-  listener.AddHandler(Opened(), runs.Note("second"), 0);
+  When(Opened(), runs.Adding("first"));
+  When(Opened(), runs.Adding("second"));
   Raise(listener);
   EXPECT_EQ(line, "written");
   EXPECT_EQ(pOwned.use_count(), 1);
@@ -172,7 +214,7 @@ TEST_F(ZELSYPDispatchTracerTest, MayBeDestroyedByItsWriter)
 
 TEST_F(ZELSYPDispatchTracerTest, WritesOnAfterItsWriterHasThrown)
 {
-  listener.AddHandler(Opened(), runs.Note("handler"), 0);
+  When(Opened(), runs.Adding("handler"));
   int written = 0;
   const ZELSYPDispatchTracer tracer(
       [&](const std::string&)
@@ -189,20 +231,14 @@ TEST_F(ZELSYPDispatchTracerTest, WritesOnAfterItsWriterHasThrown)
 
 TEST_F(ZELSYPDispatchTracerTest, SaysWhoConsumesWhenANestedHandlerHasThrown)
 {
-  listener.AddHandler(Opened(),
-                      ZELSYPMakeHandler(
-                          [&](ZELSYPEventArgs* i_pArgs)
-                          {
-                            EXPECT_THROW(RaiseNumber(listener, 1), int);
-                            i_pArgs->Consume();
-                          }),
-                      0);
-  listener.AddHandler(Counted(), ZELSYPMakeHandler([](ZELSYPEventArgs*) { throw 7; }), 0);
-  const ZELSYPDispatchTracer tracer(Writing());
-  Raise(listener);
-  EXPECT_THAT(lines, ElementsAre("runs Listener.Opened at Listener, list 0, position 0: ZELSYPEventHandler",
-                                 "runs Listener.Counted at Listener, list 0, position 0: ZELSYPEventHandler",
-                                 "consumes Listener.Opened at Listener, list 0, position 0: ZELSYPEventHandler"));
+  When(Opened(),
+       [&](ZELSYPEventArgs* i_pArgs)
+       {
+         EXPECT_THROW(RaiseNumber(listener, 1), int);
+         i_pArgs->Consume();
+       });
+  When(Counted(), Throw);
+  EXPECT_THAT(Trace(listener), ElementsAre(Line("runs", "Opened", 0), Line("runs", "Counted", 0), Line("consumes", "Opened", 0)));
 }
 
 TEST_F(ZELSYPDispatchTracerTest, WritesThatThereIsNoEventWhereTheArgumentsHaveNone)
@@ -215,8 +251,10 @@ TEST_F(ZELSYPDispatchTracerTest, WritesThatThereIsNoEventWhereTheArgumentsHaveNo
   const ZELSYPDispatchTracer text(Writing());
   const ZELSYPDispatchTracer json(Writing(), ZELSYPDispatchTracer::Format::JSON);
   stop.Dispatch(&args);
-  EXPECT_THAT(lines,
-              ElementsAre(R"({"step":"runs","event":"no event","node":"Listener","list":0,"position":0,"handler":"ZELSYPEventHandler"})",
-                          "runs no event at Listener, list 0, position 0: ZELSYPEventHandler"));
+  EXPECT_THAT(
+      lines,
+      ElementsAre(
+          R"({"step":"runs","event":"no event","node":"Listener","list":0,"class":null,"position":0,"handler":"ZELSYPEventHandler"})",
+          "runs no event at Listener, instance handler, position 0: ZELSYPEventHandler"));
   EXPECT_THAT(runs.Take(), ElementsAre("handler"));
 }

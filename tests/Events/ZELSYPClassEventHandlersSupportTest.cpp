@@ -5,6 +5,7 @@
 #include "OpenStores.h"
 #include "RecordingFailureHandler.h"
 #include "RouteWorld.h"
+#include "ZELSYPEventHandlerInfo.h"
 
 #include <gmock/gmock.h>
 
@@ -32,6 +33,29 @@ TEST_F(ZELSYPClassEventHandlersSupportTest, EachClassHasItsOwnStoreMadeByTheFirs
   EXPECT_NE(pPanels, _classHandlers.GetClassHandlersSupport(Widget::MetaObject()));
   EXPECT_EQ(1, pPanels->GetHandlersList(_pUp).GetSize());
   EXPECT_THAT(_failures.GetMessages(), IsEmpty());
+}
+
+TEST_F(ZELSYPClassEventHandlersSupportTest, RegistrationsAreForTheClassWhoseStoreTheyWereMadeIn)
+{
+  _classHandlers.AddClassHandler(Panel::MetaObject(), _pUp, Keep("by the class"), 0);
+  ZELSYPEventHandlersSupport* const pPanels = _classHandlers.GetClassHandlersSupport(Panel::MetaObject());
+  pPanels->AddHandler(_pUp, Keep("by its store"), 0);
+  const ZELSYPEventHandlerInfoList list = pPanels->GetHandlersList(_pUp);
+  ASSERT_EQ(2, list.GetSize());
+  EXPECT_EQ(Panel::MetaObject(), list.Get(0)->GetRegisteredClass());
+  EXPECT_EQ(Panel::MetaObject(), list.Get(1)->GetRegisteredClass());
+}
+
+TEST_F(ZELSYPClassEventHandlersSupportTest, RegistrationThatAnotherStoreTookOverIsStillForItsClass)
+{
+  _classHandlers.AddClassHandler(Panel::MetaObject(), _pUp, Keep("panel"), 0);
+  ZELSYPEventHandlersSupport ofObject;
+  ofObject.ReplaceHandlers(*_classHandlers.GetClassHandlersSupport(Panel::MetaObject()));
+  ofObject.AddHandler(_pUp, Keep("own"), 0);
+  const ZELSYPEventHandlerInfoList list = ofObject.GetHandlersList(_pUp);
+  ASSERT_EQ(2, list.GetSize());
+  EXPECT_EQ(Panel::MetaObject(), list.Get(0)->GetRegisteredClass());
+  EXPECT_EQ(nullptr, list.Get(1)->GetRegisteredClass());
 }
 
 TEST_F(ZELSYPClassEventHandlersSupportTest, StoreOfABaseClassIsNotAnsweredForADerivedOne)

@@ -18,6 +18,17 @@ TEST(ZELSYPEventHandlerInfoTest, RegistrationAnswersWhatItWasMadeOf)
   }
 }
 
+TEST(ZELSYPEventHandlerInfoTest, RegistrationAnswersTheClassThatItIsFor)
+{
+  const auto handler = CountedHandler::New();
+  const ZELSYPEventHandlerInfo ofNone(handler.Get(), 1);
+  const ZELSYPEventHandlerInfo ofClass(handler.Get(), 1, CountedHandler::MetaObject());
+  EXPECT_EQ(nullptr, ofNone.GetRegisteredClass());
+  EXPECT_EQ(CountedHandler::MetaObject(), ofClass.GetRegisteredClass());
+  EXPECT_EQ(handler.Get(), ofClass.GetHandler());
+  EXPECT_EQ(1, ofClass.GetHandleConsumedEvents());
+}
+
 TEST(ZELSYPEventHandlerInfoTest, HandlerIsHeldWhileTheRegistrationLives)
 {
   const auto handler = CountedHandler::New();

@@ -50,7 +50,7 @@ ZELSYPEventHandlersSupport* ZELSYPClassEventHandlersSupport::FindOrAddSupport(ZE
     return *pEntry;
   if (_isGoing)
     return nullptr;
-  std::unique_ptr<ZELSYPEventHandlersSupport> pSupport = std::make_unique<ZELSYPEventHandlersSupport>();
+  std::unique_ptr<ZELSYPEventHandlersSupport> pSupport(new ZELSYPEventHandlersSupport(i_pClass));
   if (_supports.Set(i_pClass, pSupport.get()) != 1)
     return nullptr;
   ForgetChains();

@@ -7,7 +7,13 @@
 ZELImplementClass(ZELSYPEventHandlerInfo, ZELBaseUnknown, OPXCoreTools);
 
 ZELSYPEventHandlerInfo::ZELSYPEventHandlerInfo(ZELSYPEventHandler* i_pHandler, int i_handleConsumedEvents)
-    : _pHandler(i_pHandler), _handleConsumedEvents(i_handleConsumedEvents)
+    : ZELSYPEventHandlerInfo(i_pHandler, i_handleConsumedEvents, nullptr)
+{
+}
+
+ZELSYPEventHandlerInfo::ZELSYPEventHandlerInfo(ZELSYPEventHandler* i_pHandler, int i_handleConsumedEvents,
+                                               const ZELMetaClass* i_pRegisteredClass)
+    : _pHandler(i_pHandler), _handleConsumedEvents(i_handleConsumedEvents), _pRegisteredClass(i_pRegisteredClass)
 {
   if (ZELSYP_CHECK_POINTER(i_pHandler))
     i_pHandler->AddRef();

@@ -19,9 +19,15 @@ void ZELSYPEventHandlerInfoList::Add(ZELSYPEventHandlerInfo* i_pHandlerInfo)
 
 void ZELSYPEventHandlerInfoList::AddHandler(ZELSYPEventHandler* i_pHandler, int i_handleConsumedEvents)
 {
+  AddHandler(i_pHandler, i_handleConsumedEvents, nullptr);
+}
+
+void ZELSYPEventHandlerInfoList::AddHandler(ZELSYPEventHandler* i_pHandler, int i_handleConsumedEvents,
+                                            const ZELMetaClass* i_pRegisteredClass)
+{
   if (!ZELSYP_CHECK_POINTER(i_pHandler))
     return;
-  auto* const pInfo = new ZELSYPEventHandlerInfo(i_pHandler, i_handleConsumedEvents);
+  auto* const pInfo = new ZELSYPEventHandlerInfo(i_pHandler, i_handleConsumedEvents, i_pRegisteredClass);
   Add(pInfo);
   pInfo->Release();
 }

@@ -34,6 +34,8 @@ bool AcceptsArguments(ZELSYPEventHandler& i_handler, const ZELSYPEvent& i_event)
 
 ZELSYPEventHandlersSupport::ZELSYPEventHandlersSupport() = default;
 
+ZELSYPEventHandlersSupport::ZELSYPEventHandlersSupport(const ZELMetaClass* i_pClass) : _pClass(i_pClass) {}
+
 ZELSYPEventHandlersSupport::~ZELSYPEventHandlersSupport()
 {
   _isGoing = true;
@@ -48,7 +50,7 @@ int ZELSYPEventHandlersSupport::AddHandler(ZELSYPEvent* i_pEvent, ZELSYPEventHan
   ZELSYPEventHandlerInfoList* const pList = FindOrAddList(i_pEvent);
   if (!ZELSYP_CHECK_POINTER(pList))
     return 0;
-  pList->AddHandler(i_pHandler, i_handleConsumedEvents);
+  pList->AddHandler(i_pHandler, i_handleConsumedEvents, _pClass);
   return 1;
 }
 
