@@ -30,6 +30,24 @@ struct SortedTree : TemporaryTree
     SetTime("big", 132000000000000000);
   }
 };
+
+// Many names for one file, which are made sooner than as many files.
+void AddLinkedFiles(TemporaryTree& io_tree, const std::string& i_directory, int i_count)
+{
+  const std::filesystem::path directory = io_tree.AddDirectory(i_directory);
+  const std::filesystem::path first = io_tree.AddFile(i_directory + "\\0");
+  for (int i = 1; i < i_count; ++i)
+    std::filesystem::create_hard_link(first, directory / std::to_string(i));
+}
+
+// How many children each of the nodes shows.
+std::vector<std::size_t> CountListed(const json& i_nodes)
+{
+  std::vector<std::size_t> counts;
+  for (const json& node : i_nodes)
+    counts.push_back(node.value("children", json::array()).size());
+  return counts;
+}
 } // namespace
 
 TEST(OPXExplorerDirectorySourceTest, ARowTellsIdNameKindSizeTimeAndWhetherItMayHaveChildren)
@@ -260,14 +278,14 @@ TEST(OPXExplorerDirectorySourceTest, StructureStartsAtTheGroupKeysInTheOrderAske
 
 TEST(OPXExplorerDirectorySourceTest, AStructureIsBoundInItsNodes)
 {
+  // The four at the top, a's and b's leave room for six of 10,000: c's are too many, d's just fit.
   TemporaryTree tree;
-  for (int i = 0; i < 110; ++i)
-    for (int k = 0; k < 100; ++k)
-      tree.AddDirectory("d" + std::to_string(i) + "\\" + std::to_string(k));
+  for (const auto& [name, count] : {std::pair("a", 5000), {"b", 4990}, {"c", 7}, {"d", 6}})
+    AddLinkedFiles(tree, name, count);
   const json result = DirectoryView(tree.SystemPath()).Ask("tree/structure", {{"expandNLevels", -1}})["result"];
-  EXPECT_TRUE(result["children"][97].contains("children"));
-  EXPECT_FALSE(result["children"][99].contains("children"));
-  EXPECT_EQ(result["children"][109]["numberOfChildren"], 100);
+  EXPECT_EQ(CountListed(result["children"]), (std::vector<std::size_t>{5000, 4990, 0, 6}));
+  EXPECT_EQ(result["children"][2]["numberOfChildren"], 7);
+  EXPECT_FALSE(result["children"][2].contains("children"));
 }
 
 TEST(OPXExplorerDirectorySourceTest, WhatCannotBeExpandedIsCollapsedAgain)
