@@ -260,3 +260,30 @@ TEST_F(ZELSYPDeferredJSResultTest, WaitingForWhatHasSettledReturnsAtOnce)
   result.WaitForResult(60000);
   EXPECT_TRUE(result.HasError());
 }
+
+TEST_F(ZELSYPDeferredJSResultTest, AFailureWhoseErrorIsMissingIsNotSeenByWaitingNorByGetError)
+{
+  call.completion.set_value(false);
+  result.WaitForResult(60000);
+  EXPECT_FALSE(result.HasError());
+  EXPECT_TRUE(IsDefault(result.GetError()));
+  EXPECT_FALSE(result.HasError());
+  call.error.set_value({"TypeError", "", ""});
+  EXPECT_EQ(result.GetError().name, "TypeError");
+}
+
+TEST_F(ZELSYPDeferredJSResultTest, AFailureWhoseErrorIsMissingIsSeenByGetValue)
+{
+  call.completion.set_value(false);
+  EXPECT_TRUE(result.GetValue().value.is_null());
+  EXPECT_TRUE(result.HasError());
+}
+
+TEST_F(ZELSYPDeferredJSResultTest, WaitingTakesNothingOut)
+{
+  call.Succeed(7);
+  result.WaitForResult(60000);
+  result.WaitForResult(60000);
+  EXPECT_EQ(result.GetValue().value, 7);
+  EXPECT_TRUE(result.HasValue());
+}

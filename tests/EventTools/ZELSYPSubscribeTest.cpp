@@ -3,6 +3,7 @@
 #include "EventWorld.h"
 #include "RecordingFailureHandler.h"
 #include "ZELSYPCommandSimpleEventListener.h"
+#include "ZELSYPEventHandlerInfo.h"
 #include "ZELSYPEventSubscriberEventListener.h"
 #include "ZELSYPMakeMemberHandler.h"
 #include "ZELSYPMakeOnceHandler.h"
@@ -368,4 +369,24 @@ TYPED_TEST(ZELSYPSubscribeToAnyListener, RunsClassHandlersAndItsOwnUntilTheyEnd)
   }
   EXPECT_EQ(listener.Dispatch(&args), 1);
   EXPECT_THAT(runs.Take(), ElementsAre("class", "own"));
+}
+
+TEST_F(ZELSYPSubscribeTest, HandlesConsumedEventsOfAClassWhenAsked)
+{
+  const ZELSYPSubscription own = ZELSYPSubscribe(*listener, Opened(), runs.Adding("own"));
+  const ZELSYPSubscription consumer = ZELSYPSubscribeClass<Listener>(Opened(), [](ZELSYPEventArgs* i_pArgs) { i_pArgs->Consume(); });
+  const ZELSYPSubscription plain = ZELSYPSubscribeClass<Listener>(Opened(), runs.Adding("plain"));
+  const ZELSYPSubscription eager = ZELSYPSubscribeClass<Listener>(Opened(), runs.Adding("eager"), 1);
+  Raise(*listener);
+  EXPECT_THAT(runs.Take(), ElementsAre("eager"));
+}
+
+TEST_F(ZELSYPSubscribeTest, PassesOnToAStoreOfClassHandlersWhetherConsumedEventsAreHandled)
+{
+  ZELSYPClassEventHandlersSupport support;
+  const ZELSYPSubscription plain = ZELSYPSubscribeClass(support, Listener::MetaObject(), Opened(), runs.Adding("plain"));
+  const ZELSYPSubscription eager = ZELSYPSubscribeClass(support, Listener::MetaObject(), Opened(), runs.Adding("eager"), 1);
+  const ZELSYPEventHandlerInfoList list = support.GetClassHandlersSupport(Listener::MetaObject())->GetHandlersList(Opened());
+  EXPECT_EQ(list.Get(0)->GetHandleConsumedEvents(), 0);
+  EXPECT_EQ(list.Get(1)->GetHandleConsumedEvents(), 1);
 }

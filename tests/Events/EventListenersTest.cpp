@@ -3,14 +3,20 @@
 #include "ZELSYPEventSubscriberEventListener.h"
 #include "ZELSYPSimpleEventListener.h"
 
+#include "ChildProcess.h"
+#include "ChildProgram.h"
 #include "RecordingFailureHandler.h"
 #include "RouteWorld.h"
 
 #include <gmock/gmock.h>
 
+#include <cstdio>
 #include <set>
 #include <stdexcept>
+#include <string>
 #include <thread>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 using testing::ElementsAre;
@@ -57,6 +63,7 @@ struct Simple
   typedef ZELSYPSimpleEventListener Base;
   typedef ZELBaseUnknown Host;
   static constexpr const char* Name = "ZELSYPSimpleEventListener";
+  static constexpr const char* Kind = "simple";
 };
 struct Command
 {
@@ -64,6 +71,7 @@ struct Command
   typedef ZELSYPCommandSimpleEventListener Base;
   typedef ZELCommand Host;
   static constexpr const char* Name = "ZELSYPCommandSimpleEventListener";
+  static constexpr const char* Kind = "command";
 };
 struct Subscriber
 {
@@ -71,7 +79,49 @@ struct Subscriber
   typedef ZELSYPEventSubscriberEventListener Base;
   typedef ZELEventSubscriber Host;
   static constexpr const char* Name = "ZELSYPEventSubscriberEventListener";
+  static constexpr const char* Kind = "subscriber";
 };
+
+// Whether everyone may make one of these arguments with new. The destructor is not asked for.
+template <class Class, class = void, class... Arguments>
+struct IsOpenToNew : std::false_type
+{
+};
+template <class Class, class... Arguments>
+struct IsOpenToNew<Class, std::void_t<decltype(new Class(std::declval<Arguments>()...))>, Arguments...> : std::true_type
+{
+};
+template <class Class, class... Arguments>
+constexpr bool k_isOpenToNew = IsOpenToNew<Class, void, Arguments...>::value;
+
+// Whether everyone may ask for the factory.
+template <class Class, class = void>
+constexpr bool k_hasOpenFactory = false;
+template <class Class>
+constexpr bool k_hasOpenFactory<Class, std::void_t<decltype(Class::GetEventFactory())>> = true;
+
+// Which of the three have class handlers' stores.
+std::string ClassStores()
+{
+  return std::string(ZELSYPSimpleEventListener::GetClassHandlersSupport() ? "simple " : "") +
+         (ZELSYPCommandSimpleEventListener::GetClassHandlersSupport() ? "command " : "") +
+         (ZELSYPEventSubscriberEventListener::GetClassHandlersSupport() ? "subscriber " : "");
+}
+
+// Does everything else with a listener, then the one call that is left; tells what it answered, and which stores are there.
+template <class Listening>
+void TellOfClassStores(bool i_add)
+{
+  LoggingHandler::Log log;
+  const auto handler = LoggingHandler::New(log, "handler");
+  const auto listener = ZELHandle<Listening>::Adopt(new Listening);
+  ZELSYPEventArgs args(Listening::Opened());
+  const int added = listener->AddHandler(Listening::Opened(), handler, 0), ran = listener->Dispatch(&args);
+  std::printf("%d %d [%s] ", added, ran, ClassStores().c_str());
+  const int answer = i_add ? Listening::AddClassHandler(Listening::MetaObject(), Listening::Opened(), handler, 0)
+                           : Listening::RemoveClassHandler(Listening::MetaObject(), Listening::Opened(), handler);
+  std::printf("%d [%s]", answer, ClassStores().c_str());
+}
 
 template <class Kind>
 class EventListenersTest : public testing::Test
@@ -92,9 +142,9 @@ protected:
     _kept.push_back(LoggingHandler::New(_log, std::move(i_name), std::move(i_action)));
     return _kept.back();
   }
-  void ListenToClass(ZELMetaClass* i_pClass, std::string i_name)
+  void ListenToClass(ZELMetaClass* i_pClass, std::string i_name, int i_handleConsumed = 0, LoggingHandler::Action i_action = nullptr)
   {
-    EXPECT_EQ(1, Base::AddClassHandler(i_pClass, Class::Opened(), Keep(std::move(i_name)), 0));
+    EXPECT_EQ(1, Base::AddClassHandler(i_pClass, Class::Opened(), Keep(std::move(i_name), std::move(i_action)), i_handleConsumed));
     _ofClasses.emplace_back(i_pClass, _kept.back());
   }
   int Raise()
@@ -143,6 +193,18 @@ TYPED_TEST(EventListenersTest, RemovalFromAFreshListenerAnswersZeroAndLetsItDisp
   EXPECT_EQ(1, this->Raise());
   EXPECT_THAT(this->_log, ElementsAre("class"));
   EXPECT_THAT(this->_failures.GetMessages(), IsEmpty());
+}
+
+TYPED_TEST(EventListenersTest, ConsumedArgumentsReachThoseHandlersOfTheClassAndOfTheListenerThatAskedForThem)
+{
+  ZELMetaClass* const pClass = TypeParam::Class::MetaObject();
+  this->ListenToClass(pClass, "consumes", 0, [](ZELBaseUnknown*, ZELSYPEventArgs* i_pArgs) { i_pArgs->Consume(); });
+  this->ListenToClass(pClass, "class, not any more");
+  this->ListenToClass(pClass, "class, all the same", 1);
+  EXPECT_EQ(1, this->_listener->AddHandler(TypeParam::Class::Opened(), this->Keep("own, not any more"), 0));
+  EXPECT_EQ(1, this->_listener->AddHandler(TypeParam::Class::Opened(), this->Keep("own, all the same"), 1));
+  EXPECT_EQ(1, this->Raise());
+  EXPECT_THAT(this->_log, ElementsAre("consumes", "class, all the same", "own, all the same"));
 }
 
 TYPED_TEST(EventListenersTest, ClassHandlersOfOneBaseAreNotSeenByTheOtherTwo)
@@ -256,6 +318,47 @@ TYPED_TEST(EventListenersTest, CostsOnePointerBeyondItsHostClass)
   EXPECT_EQ(sizeof(typename TypeParam::Host) + sizeof(void*), sizeof(typename TypeParam::Base));
 }
 
+TYPED_TEST(EventListenersTest, ListenersAreMadeAndEndedByTheirDerivedClassesOnly)
+{
+  typedef typename TypeParam::Base Listening;
+  EXPECT_FALSE((k_isOpenToNew<Listening>));
+  EXPECT_FALSE((k_isOpenToNew<Listening, ZELCommand*, const ZELString&>));
+  EXPECT_TRUE((k_isOpenToNew<typename TypeParam::Class>));
+  EXPECT_FALSE(std::is_destructible_v<Listening>);
+  EXPECT_TRUE(std::has_virtual_destructor_v<Listening>);
+}
+
+TYPED_TEST(EventListenersTest, FactoryIsThereForDerivedClassesOnly)
+{
+  EXPECT_FALSE(k_hasOpenFactory<typename TypeParam::Base>);
+  EXPECT_TRUE(k_hasOpenFactory<typename TypeParam::Class>);
+}
+
+// Each in a process of its own: the stores stay as long as the library.
+OPX_CHILD_ENTRY(ClassStores)
+{
+  const bool add = i_arguments.at(1) == "add";
+  if (i_arguments.at(0) == Simple::Name)
+    TellOfClassStores<Window>(add);
+  else if (i_arguments.at(0) == Command::Name)
+    TellOfClassStores<SaveCommand>(add);
+  else
+    TellOfClassStores<Model>(add);
+  return 0;
+}
+
+TYPED_TEST(EventListenersTest, StoreOfClassHandlersIsMadeByTheFirstAdditionToItsOwnBase)
+{
+  const ChildResult result = ChildProcess::Self("ClassStores", {TypeParam::Name, "add"}).Run();
+  EXPECT_EQ(std::string("1 1 [] 1 [") + TypeParam::Kind + " ]", result.out);
+}
+
+TYPED_TEST(EventListenersTest, StoreOfClassHandlersIsMadeByTheFirstRemovalFromItsOwnBase)
+{
+  const ChildResult result = ChildProcess::Self("ClassStores", {TypeParam::Name, "remove"}).Run();
+  EXPECT_EQ(std::string("1 1 [] 0 [") + TypeParam::Kind + " ]", result.out);
+}
+
 TYPED_TEST(EventListenersTest, FactoryIsOneForAllThreads)
 {
   typedef typename TypeParam::Class Listening;
@@ -308,4 +411,10 @@ TEST(ZELSYPEventSubscriberEventListenerTest, CallsItsSubscribersBackAndDispatche
   ZELSYPEventArgs args(Model::Opened());
   EXPECT_EQ(1, model->Dispatch(&args));
   EXPECT_THAT(log, ElementsAre("callback", "handler"));
+}
+
+TEST(ZELSYPCommandSimpleEventListenerTest, IsOpenToNewWithFatherAndNameOnceADerivedClassSaysSo)
+{
+  EXPECT_TRUE((k_isOpenToNew<NamedCommand, ZELCommand*, const ZELString&>));
+  EXPECT_FALSE((k_isOpenToNew<NamedCommand>));
 }

@@ -1,10 +1,19 @@
 #include "VirtualSlots.h"
 
-#include "ZELSYPDescriptorBase.h"
+#include "ZELSYPAbstractDataSource.h"
+#include "ZELSYPClassEventHandlersSupport.h"
+#include "ZELSYPEventArgs.h"
+#include "ZELSYPEventDescriptor.h"
+#include "ZELSYPEventFactory.h"
 #include "ZELSYPEventHandler.h"
-#include "ZELSYPSupportsEventPathBuilder.h"
+#include "ZELSYPEventHandlerInfo.h"
+#include "ZELSYPEventHandlersSupport.h"
+#include "ZELSYPEventMap.h"
+#include "ZELSYPSingleEventPathBuilder.h"
 
 #include <gtest/gtest.h>
+
+#include <type_traits>
 
 namespace
 {
@@ -24,7 +33,57 @@ public:
   ZELSYPEventHandlersSupport* GetSupportForNode(ZELBaseUnknown*) override { return NO_SUPPORT(); }
   ZELSYPClassEventHandlersSupport* GetClassSupportForNode(ZELBaseUnknown*) override { return NO_CLASS_SUPPORT(); }
 };
+
+// The next virtual operation of a class.
+template <class Class>
+class Next : public Class
+{
+public:
+  virtual void Operation() {}
+};
+
+template <class Class>
+class OnlyDestructorTest : public testing::Test
+{
+};
+typedef testing::Types<ZELSYPEventMap, ZELSYPEventFactory, ZELSYPEventHandlerInfoList, ZELSYPEventHandlersSupport,
+                       ZELSYPClassEventHandlersSupport, ZELSYPEventPathElt, ZELSYPEventPath>
+    ClassesWithADestructorOnly;
+TYPED_TEST_SUITE(OnlyDestructorTest, ClassesWithADestructorOnly, );
+
+template <class Class>
+class VirtualDestructorTest : public testing::Test
+{
+};
+typedef testing::Types<ZELSYPEvent, ZELSYPDescriptorBase, ZELSYPEventDescriptor, ZELSYPEventArgs, ZELSYPEventHandler,
+                       ZELSYPEventHandlerInfo, ZELSYPEventHandlerInfoListData, ZELSYPEventPathBuilder, ZELSYPSupportsEventPathBuilder,
+                       ZELSYPSingleEventPathBuilder, ZELSYPAbstractDataSource>
+    ClassesWithAVirtualDestructor;
+TYPED_TEST_SUITE(VirtualDestructorTest, ClassesWithAVirtualDestructor, );
 } // namespace
+
+TYPED_TEST(OnlyDestructorTest, IsVirtualAndAloneSo)
+{
+  EXPECT_TRUE(std::has_virtual_destructor_v<TypeParam>);
+  EXPECT_EQ(SlotAfter(2), GetSlot(&Next<TypeParam>::Operation));
+}
+
+TYPED_TEST(VirtualDestructorTest, IsVirtual)
+{
+  EXPECT_TRUE(std::has_virtual_destructor_v<TypeParam>);
+}
+
+// What says what the event is stands where every object has it; nobody can derive from an event to see what comes next.
+TEST(VirtualSlotsTest, EventHasThePlacesOfEveryObjectAndItsOwnOperationsHaveNone)
+{
+  EXPECT_EQ(GetSlot(&ZELBaseUnknown::GetMetaObject), GetSlot(&ZELSYPEvent::GetMetaObject));
+  EXPECT_TRUE(IsVirtual(&ZELSYPEvent::GetMetaObject));
+  EXPECT_FALSE(IsVirtual(&ZELSYPEvent::GetName));
+  EXPECT_FALSE(IsVirtual(&ZELSYPEvent::GetPropagation));
+  EXPECT_FALSE(IsVirtual(&ZELSYPEvent::GetArgumentType));
+  EXPECT_FALSE(IsVirtual(&ZELSYPEvent::GetOwnerClass));
+  EXPECT_TRUE(std::is_final_v<ZELSYPEvent>);
+}
 
 TEST(VirtualSlotsTest, HandlerIsRunThenAskedForItsArgumentsThenWhetherItMustBeRemoved)
 {

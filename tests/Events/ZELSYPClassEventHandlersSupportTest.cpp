@@ -200,3 +200,20 @@ TEST_F(ZELSYPClassEventHandlersSupportTest, ClassThatGetsItsFirstHandlerFromOneT
   Raise(*_leaf);
   EXPECT_THAT(_log, ElementsAre("button", "panel", "widget"));
 }
+
+TEST_F(ZELSYPClassEventHandlersSupportTest, OfWhatIsNullTheFirstIsReportedOnly)
+{
+  LoggingHandler* const pHandler = Keep("handler");
+  EXPECT_EQ(0, _classHandlers.AddClassHandler(nullptr, nullptr, nullptr, 0));
+  EXPECT_EQ(0, _classHandlers.AddClassHandler(nullptr, nullptr, pHandler, 0));
+  EXPECT_EQ(0, _classHandlers.AddClassHandler(nullptr, _pUp, nullptr, 0));
+  EXPECT_EQ(0, _classHandlers.RemoveClassHandler(nullptr, nullptr, nullptr));
+  EXPECT_EQ(0, _classHandlers.RemoveClassHandler(nullptr, nullptr, pHandler));
+  EXPECT_EQ(0, _classHandlers.RemoveClassHandler(nullptr, _pUp, nullptr));
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer i_pClass is NULL", "pointer i_pClass is NULL", "pointer i_pClass is NULL",
+                                                   "pointer i_pClass is NULL", "pointer i_pClass is NULL", "pointer i_pClass is NULL"));
+  _failures.Clear();
+  EXPECT_EQ(0, _classHandlers.AddClassHandler(Panel::MetaObject(), nullptr, nullptr, 0));
+  EXPECT_EQ(0, _classHandlers.RemoveClassHandler(Panel::MetaObject(), nullptr, nullptr));
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer i_pEvent is NULL", "pointer i_pEvent is NULL"));
+}

@@ -2,6 +2,7 @@
 
 #include "RecordingFailureHandler.h"
 #include "RouteWorld.h"
+#include "ZELExtension.h"
 #include "ZELSYPEventHandlerInfo.h"
 
 #include <gmock/gmock.h>
@@ -12,6 +13,7 @@
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Pair;
 
 typedef ZELSYPArray<ZELBaseUnknown_var, ZELSYPRecycledBlocks> Nodes;
 
@@ -58,10 +60,32 @@ public:
 
   std::function<ZELSYPEventPathElt*(ZELBaseUnknown*)> _buildElement = [](ZELBaseUnknown*) { return NO_ELEMENT(); };
   std::function<ZELBaseUnknown*(ZELBaseUnknown*)> _getParent = [](ZELBaseUnknown*) { return nullptr; };
+  // What it was asked for parents with.
+  std::vector<std::pair<ZELSYPEventArgs*, ZELBaseUnknown*>> _askedForParents;
 
 private:
   ZELSYPEventPathElt* BuildElement(ZELSYPEventArgs*, ZELBaseUnknown* i_pNode) override { return _buildElement(i_pNode); }
-  ZELBaseUnknown* GetParent(ZELSYPEventArgs*, ZELBaseUnknown* i_pNode) override { return _getParent(i_pNode); }
+  ZELBaseUnknown* GetParent(ZELSYPEventArgs* i_pArgs, ZELBaseUnknown* i_pNode) override
+  {
+    _askedForParents.emplace_back(i_pArgs, i_pNode);
+    return _getParent(i_pNode);
+  }
+};
+
+// Tells of each node whose store is asked for.
+class StoreWatchingBuilder : public WidgetBuilder
+{
+public:
+  explicit StoreWatchingBuilder(std::function<void(ZELBaseUnknown*)> i_watch) : _watch(std::move(i_watch)) {}
+
+private:
+  ZELSYPEventHandlersSupport* GetSupportForNode(ZELBaseUnknown* i_pNode) override
+  {
+    _watch(i_pNode);
+    return &static_cast<Widget*>(i_pNode)->_handlers;
+  }
+
+  const std::function<void(ZELBaseUnknown*)> _watch;
 };
 
 // Arguments that do not say what class they are of.
@@ -71,6 +95,34 @@ public:
   using ZELSYPEventArgs::ZELSYPEventArgs;
   ZELMetaClass* GetMetaObject() const override { return nullptr; }
 };
+
+// Stands for the object that it extends.
+class Stand : public ZELExtension<ZELBaseUnknown>
+{
+};
+
+// A chain of three that tells which of its widgets live, once nobody here holds the upper two.
+struct GivenUpChain
+{
+  // Gives up the widget if it is one of the upper two.
+  void GiveUp(const ZELBaseUnknown* i_pNode)
+  {
+    for (ZELHandle<Widget>* const pHeld : {&_parent, &_root})
+      if (pHeld->Get() == i_pNode)
+        *pHeld = nullptr;
+  }
+  int CountLiving() const { return Widget::s_living - _others; }
+
+  const int _others = Widget::s_living;
+  ZELHandle<Widget> _root = ZELHandle<Widget>::Adopt(new Widget);
+  ZELHandle<Widget> _parent = ZELHandle<Widget>::Adopt(new Widget(_root));
+  const ZELHandle<Widget> _leaf = ZELHandle<Widget>::Adopt(new Widget(_parent));
+};
+
+Widget* ParentOf(ZELBaseUnknown* i_pNode)
+{
+  return static_cast<Widget*>(i_pNode)->_pParent;
+}
 
 std::vector<const ZELBaseUnknown*> NodesOf(const ZELSYPEventPath& i_path)
 {
@@ -616,4 +668,110 @@ TEST_F(ZELSYPEventPathBuilderTest, NullNodeEndsTheRoute)
   WidgetBuilder builder;
   EXPECT_FALSE((builder.*Get(BuildElements()))(path, args, nodes));
   EXPECT_THAT(_failures.GetMessages(), ElementsAre("handler spNode is NULL_var"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, ParentsAreAskedForWithTheArgumentsAndTheNodeThatTheChainHasComeTo)
+{
+  ScriptedBuilder builder;
+  builder._getParent = ParentOf;
+  ZELSYPEventArgs up(_pUp), down(_pDown);
+  EXPECT_EQ(1, builder.Dispatch(_leaf, &up));
+  EXPECT_THAT(builder._askedForParents, ElementsAre(Pair(&up, _leaf.Get()), Pair(&up, _parent.Get()), Pair(&up, _root.Get())));
+  builder._askedForParents.clear();
+  EXPECT_EQ(1, builder.Dispatch(_parent, &down));
+  EXPECT_THAT(builder._askedForParents, ElementsAre(Pair(&down, _parent.Get()), Pair(&down, _root.Get())));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, ExtensionOfTheArgumentsOriginIsTakenForTheOrigin)
+{
+  ListenEverywhere();
+  ZELBaseUnknown* const pStand = ZELAttachExtension<Stand>(_leaf.Get());
+  ASSERT_NE(pStand, _leaf.Get());
+  ZELSYPEventArgs args(_pEvent);
+  args.SetOrigin(_leaf);
+  EXPECT_EQ(1, WidgetBuilder().Dispatch(pStand, &args));
+  EXPECT_THAT(_log, ElementsAre("leaf", "parent", "root"));
+  EXPECT_THAT(_failures.GetMessages(), IsEmpty());
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, OriginIsTakenForItsExtensionAndTheRouteBeginsWhereTheArgumentsSay)
+{
+  ZELBaseUnknown* const pStand = ZELAttachExtension<Stand>(_leaf.Get());
+  ZELSYPEventArgs args(_pEvent);
+  args.SetOrigin(pStand);
+  ScriptedBuilder builder;
+  EXPECT_EQ(1, builder.Dispatch(_leaf, &args));
+  EXPECT_THAT(builder._askedForParents, ElementsAre(Pair(&args, pStand)));
+  EXPECT_THAT(_failures.GetMessages(), IsEmpty());
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, ExtensionOfAnotherObjectIsRefused)
+{
+  ListenEverywhere();
+  ZELSYPEventArgs args(_pEvent);
+  args.SetOrigin(_leaf);
+  EXPECT_EQ(0, WidgetBuilder().Dispatch(ZELAttachExtension<Stand>(_parent.Get()), &args));
+  EXPECT_THAT(_log, IsEmpty());
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("boolean i_pOrigin->IsEqual(i_pArgs->GetOrigin()) is FALSE"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, NodesThatAreGivenUpWhenTheirParentsAreAskedForLiveUntilTheRouteIsBuilt)
+{
+  GivenUpChain chain;
+  ScriptedBuilder builder;
+  builder._getParent = [&](ZELBaseUnknown* i_pNode)
+  {
+    chain.GiveUp(i_pNode);
+    return ParentOf(i_pNode);
+  };
+  std::vector<int> living;
+  builder._buildElement = [&](ZELBaseUnknown*)
+  {
+    living.push_back(chain.CountLiving());
+    return ScriptedBuilder::NO_ELEMENT();
+  };
+  ZELSYPEventArgs args(_pUp);
+  EXPECT_EQ(1, builder.Dispatch(chain._leaf, &args));
+  EXPECT_THAT(living, ElementsAre(3, 3, 3));
+  EXPECT_EQ(1, chain.CountLiving());
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, NodesThatAreGivenUpWhenTheirStopsAreBuiltLiveUntilTheRouteIsBuilt)
+{
+  GivenUpChain chain;
+  ScriptedBuilder builder;
+  builder._getParent = ParentOf;
+  std::vector<int> living;
+  builder._buildElement = [&](ZELBaseUnknown* i_pNode)
+  {
+    chain.GiveUp(i_pNode);
+    living.push_back(chain.CountLiving());
+    return ScriptedBuilder::NO_ELEMENT();
+  };
+  ZELSYPEventArgs args(_pUp);
+  EXPECT_EQ(1, builder.Dispatch(chain._leaf, &args));
+  EXPECT_THAT(living, ElementsAre(3, 3, 3));
+  EXPECT_EQ(1, chain.CountLiving());
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, NodesThatAreGivenUpWhenTheirStoresAreAskedForLiveUntilTheRouteIsBuilt)
+{
+  for (const bool isHeard : {false, true})
+  {
+    GivenUpChain chain;
+    if (isHeard)
+      Listen(*chain._parent, "parent", [&](ZELBaseUnknown*, ZELSYPEventArgs*) { EXPECT_LE(2, chain.CountLiving()); });
+    std::vector<int> living;
+    StoreWatchingBuilder builder(
+        [&](ZELBaseUnknown* i_pNode)
+        {
+          chain.GiveUp(i_pNode);
+          living.push_back(chain.CountLiving());
+        });
+    ZELSYPEventArgs args(_pUp);
+    EXPECT_EQ(1, builder.Dispatch(chain._leaf, &args));
+    EXPECT_THAT(living, ElementsAre(3, 3, 3));
+    EXPECT_EQ(1, chain.CountLiving());
+  }
+  EXPECT_THAT(_log, ElementsAre("parent"));
 }

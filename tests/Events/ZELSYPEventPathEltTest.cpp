@@ -99,6 +99,7 @@ TEST_F(ZELSYPEventPathEltTest, RegistrationWithoutHandlerEndsTheStop)
   list.AddHandler(Keep("after"), 0);
   _failures.Clear();
   _stop.AddList(list);
+  _stop.AddList(NewList({"in a later list"}));
   _stop.Dispatch(&_args);
   EXPECT_THAT(_log, ElementsAre("before"));
   EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer pHandler is NULL"));

@@ -3,6 +3,7 @@
 #include "OpenStores.h"
 #include "RecordingFailureHandler.h"
 #include "RouteWorld.h"
+#include "ZELSYPEventHandlerInfo.h"
 
 #include <gmock/gmock.h>
 
@@ -17,10 +18,14 @@ protected:
   // A stop at the leaf with one handler.
   ZELSYPEventPathElt* NewStop(const char* i_name, LoggingHandler::Action i_action = nullptr)
   {
-    auto* const pStop = new ZELSYPEventPathElt(ZELBaseUnknown_var(_leaf));
     ZELSYPEventHandlerInfoList list;
     list.AddHandler(Keep(i_name, std::move(i_action)), 0);
-    pStop->AddList(list);
+    return NewStopOf(list);
+  }
+  ZELSYPEventPathElt* NewStopOf(const ZELSYPEventHandlerInfoList& i_list)
+  {
+    auto* const pStop = new ZELSYPEventPathElt(ZELBaseUnknown_var(_leaf));
+    pStop->AddList(i_list);
     return pStop;
   }
 
@@ -110,4 +115,28 @@ TEST_F(ZELSYPEventPathTest, StopThatIsNotThereIsNullAndReported)
 {
   EXPECT_EQ(nullptr, _path.GetElement(0));
   EXPECT_THAT(_failures.GetMessages(), ElementsAre("boolean (i_index>=0 && i_index<_length) is FALSE"));
+}
+
+TEST_F(ZELSYPEventPathTest, NullRegistrationEndsItsOwnStopOnly)
+{
+  _path.AddElement(NewStopOf(PlantedList(nullptr)));
+  _path.AddElement(NewStop("next stop"));
+  _path.AddElement(NewStop("last stop"));
+  _path.Dispatch(&_args);
+  EXPECT_THAT(_log, ElementsAre("next stop", "last stop"));
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer pInfo is NULL"));
+}
+
+TEST_F(ZELSYPEventPathTest, RegistrationWithoutHandlerEndsItsOwnStopOnly)
+{
+  const auto info = ZELHandle<ZELSYPEventHandlerInfo>::Adopt(new ZELSYPEventHandlerInfo(nullptr, 0));
+  ZELSYPEventHandlerInfoList list;
+  list.Add(info);
+  _failures.Clear();
+  _path.AddElement(NewStopOf(list));
+  _path.AddElement(NewStop("next stop"));
+  _path.AddElement(NewStop("last stop"));
+  _path.Dispatch(&_args);
+  EXPECT_THAT(_log, ElementsAre("next stop", "last stop"));
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer pHandler is NULL"));
 }

@@ -10,9 +10,7 @@
 #include <new>
 #include <thread>
 
-using testing::Contains;
 using testing::ElementsAre;
-using testing::Not;
 
 namespace
 {
@@ -70,7 +68,6 @@ TEST_F(RoutesWithoutMemoryTest, RouteWhoseNodesFindNoRoomIsRefused)
       });
   EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer plNewArray is NULL", "boolean io_list.GetLength() >= 1 is FALSE",
                                                    "boolean FillListOfNodes(nodes, i_pArgs) is FALSE", "pointer pPath is NULL"));
-  EXPECT_THAT(_failures.GetMessages(), Not(Contains("boolean nodes.GetLength() >= 1 is FALSE")));
   EXPECT_EQ(0u, _log.size());
   EXPECT_EQ(2, CountReferences(_root));
   Raise(*chain.back());

@@ -2,7 +2,8 @@
 
 usage: check_texts.py SOURCE_FOLDER
 
-A text counts as named when a literal of a test contains it, or is exactly the expression that the text quotes.
+A text counts as named when a literal of a test contains it, or is exactly the expression that the text quotes. The texts of
+checks that cannot fail are listed below; no test may name one of them, for it would only say that it never comes.
 """
 import pathlib
 import re
@@ -18,6 +19,18 @@ MESSAGE = re.compile(r"\b(?:CheckFailure__|HandleFailure)\s*\(\s*(" + LITERALS +
 PRINTED = re.compile(r"\bf(?:printf|puts)\s*\([^\"]*?(" + LITERALS + ")")
 WORDS = re.compile(r"[^%\n]{8,}")
 ESCAPES = {"n": "\n", "t": "\t", "\\": "\\", '"': '"', "0": "\0"}
+
+# By source file: what it would report, and why it never does. The check says "Cannot fail".
+UNREACHABLE = {
+    "ZELSYPEventMap.cpp": {
+        "pointer name is NULL": "the name of an event is a string of its own, empty when it was made without one",
+        "boolean _events.GetSize() == 0 is FALSE": "no code but the map's own runs between the removal of all pairs and the check"},
+    "ZELSYPEventHandlersSupport.cpp": {
+        "boolean _eventHandlers.GetSize() == 0 is FALSE":
+            "handlers die with the lists that Clear hands out, or while all pairs are removed, those they add included"},
+    "ZELSYPEventPathBuilder.cpp": {
+        "boolean nodes.GetLength() >= 1 is FALSE": "FillListOfNodes answers 1 for a list that has a node only"},
+}
 
 
 def without_comments_and_defines(text):
@@ -67,6 +80,18 @@ def untested(source, literals):
                   if expression not in literals and not any(text in literal for literal in literals))
 
 
+def pretended(sources, literals, unreachable):
+    """What the list of unreachable texts says wrongly, and what tests say about them; sources are texts by file name."""
+    wrong = []
+    for name, texts in unreachable.items():
+        reported = {text for text, _ in check_texts(sources.get(name, ""))}
+        elsewhere = {text for other, source in sources.items() if other != name for text, _ in check_texts(source)}
+        wrong += [f"{name}: is said never to report what it does not check: {text}" for text in texts if text not in reported]
+        wrong += [f"{name}: never reports what a test names: {text}" for text in texts
+                  if text not in elsewhere and any(text in literal for literal in literals)]
+    return wrong
+
+
 def read(root, folder):
     return {path: path.read_text() for path in sorted((root / folder).rglob("*")) if path.suffix in (".h", ".cpp")}
 
@@ -75,10 +100,13 @@ def main(root):
     root = pathlib.Path(root)
     sources = read(root, "OPXCoreTools")
     literals = literals_of(read(root, "tests").values())
-    missing = [f"{path.relative_to(root)}: no test names: {text}" for path, source in sources.items() for text in untested(source, literals)]
-    found = sum(len(check_texts(source)) for source in sources.values())
-    print("\n".join(missing) or f"{found} check texts are named by tests")
-    return 1 if missing or not found else 0
+    wrong = [f"{path.relative_to(root)}: no test names: {text}" for path, source in sources.items() for text in untested(source, literals)
+             if text not in UNREACHABLE.get(path.name, {})]
+    wrong += pretended({path.name: source for path, source in sources.items()}, literals, UNREACHABLE)
+    unreachable = sum(len(texts) for texts in UNREACHABLE.values())
+    found = sum(len(check_texts(source)) for source in sources.values()) - unreachable
+    print("\n".join(wrong) or f"{found} check texts are named by tests, {unreachable} more cannot be reported")
+    return 1 if wrong or not found else 0
 
 
 if __name__ == "__main__":

@@ -62,6 +62,14 @@ class CheckTexts(unittest.TestCase):
         source = "ZELSYP_CHECK_TRUE(a); ZELSYP_CHECK_POINTER(b); ZELSYP_CHECK_POINTER(c);"
         self.assertEqual(check_texts.untested(source, literals), ["pointer b is NULL"])
 
+    def test_a_text_that_is_said_never_to_come_is_checked_and_named_by_no_test(self):
+        sources = {"A.cpp": "ZELSYP_CHECK_TRUE(a); ZELSYP_CHECK_POINTER(b);", "B.cpp": "ZELSYP_CHECK_POINTER(b);"}
+        literals = {"boolean a is FALSE", "pointer b is NULL"}
+        unreachable = {"A.cpp": {"boolean a is FALSE": "", "pointer b is NULL": "", "pointer gone is NULL": ""}}
+        self.assertEqual(check_texts.pretended(sources, literals, unreachable),
+                         ["A.cpp: is said never to report what it does not check: pointer gone is NULL",
+                          "A.cpp: never reports what a test names: boolean a is FALSE"])
+
 
 class ExportedSymbols(unittest.TestCase):
     def test_symbols_of_other_libraries_are_left_out(self):

@@ -15,6 +15,13 @@ std::ptrdiff_t GetSlot(Operation i_pOperation)
   return offset;
 }
 
+// Whether the operation stands in the table at all. The address of one that does not is even.
+template <class Operation>
+bool IsVirtual(Operation i_pOperation)
+{
+  return GetSlot(i_pOperation) % 2 != 0;
+}
+
 // What GetSlot answers for the operation that has so many places before it. A destructor takes two.
 constexpr std::ptrdiff_t SlotAfter(int i_places)
 {

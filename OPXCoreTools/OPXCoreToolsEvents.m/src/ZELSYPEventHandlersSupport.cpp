@@ -93,6 +93,7 @@ void ZELSYPEventHandlersSupport::ReplaceHandlers(const ZELSYPEventHandlersSuppor
     return;
   Lists forgotten;
   Clear(forgotten);
+  // Cannot fail: no handler dies before the lists that were cleared.
   ZELSYP_CHECK_TRUE(_eventHandlers.GetSize() == 0);
   CopyFrom(i_support);
   ZELSYP_CHECK_TRUE(_eventHandlers.GetSize() == i_support._eventHandlers.GetSize());
@@ -149,5 +150,6 @@ void ZELSYPEventHandlersSupport::Clear(Lists& o_lists)
   }
   _eventHandlers.RemoveAll();
   _pLastEvent = nullptr;
+  // Cannot fail: what a handler that dies with a list adds goes along.
   ZELSYP_CHECK_TRUE(_eventHandlers.GetSize() == 0);
 }

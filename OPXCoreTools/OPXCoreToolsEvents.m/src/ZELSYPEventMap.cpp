@@ -52,6 +52,7 @@ void ZELSYPEventMap::Put(ZELSYPEvent* i_pEvent)
   if (!ZELSYP_CHECK_POINTER(i_pEvent))
     return;
   const char* const name = i_pEvent->GetName();
+  // Cannot fail: an event that was made without a name has an empty one.
   // Kept: an event that stood under the name is overwritten without being released.
   if (ZELSYP_CHECK_POINTER(name) && _events.Set(name, i_pEvent) >= 0)
     i_pEvent->AddRef();
@@ -74,6 +75,7 @@ void ZELSYPEventMap::Clear()
     ReleaseEvent(pEntry->_value);
   }
   _events.RemoveAll();
+  // Cannot fail: nobody else's code runs once the events are released.
   ZELSYP_CHECK_TRUE(_events.GetSize() == 0);
 }
 

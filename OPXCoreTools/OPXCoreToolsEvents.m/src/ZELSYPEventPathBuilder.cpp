@@ -99,6 +99,7 @@ inline bool ZELSYPEventPathBuilder::AddStops(ZELSYPEventPath& io_path, ZELSYPEve
   ZELSYPRecycledBlocks::Room<ZELBaseUnknown_var, 30> room;
   Nodes nodes;
   nodes.UseRoom(room);
+  // Cannot fail: the second check, since a list that could be filled has a node.
   if (!ZELSYP_CHECK_TRUE(FillListOfNodes(nodes, i_pArgs)) || !ZELSYP_CHECK_TRUE(nodes.GetLength() >= 1))
     return false;
   return BuildElements(io_path, *i_pArgs, nodes);
