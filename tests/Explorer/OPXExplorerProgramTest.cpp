@@ -185,6 +185,13 @@ TEST(OPXExplorerProgramTest, WrongUsageEndsWithTwo)
   }
 }
 
+TEST(OPXExplorerProgramTest, ANumberOfRowsThatCannotBeIsToldWithTheNumbersThatCan)
+{
+  const ChildResult result = RunExplorer({"--rows", "0", "."});
+  EXPECT_EQ(result.code, 2) << result;
+  EXPECT_THAT(result.err, testing::StartsWith("--rows: Value 0 not in range 1 to 2147483647\n"));
+}
+
 TEST(OPXExplorerProgramTest, ADirectoryThatCannotBeReadEndsWithOne)
 {
   TemporaryTree tree;

@@ -3,6 +3,7 @@
 #include "ZELSysStandardStreams.h"
 
 #include <CLI/CLI.hpp>
+#include <climits>
 #include <sstream>
 
 namespace
@@ -44,7 +45,7 @@ std::optional<OPXExplorerOptions::ExitCode> OPXExplorerOptions::Parse(const std:
   app.footer(footer);
   app.set_version_flag("--version", "opx-explorer " OPX_VERSION);
   app.add_flag("--stdio", _isStdio, "Answer a tree view over standard input and output");
-  app.add_option("--rows", _rows, "Rows to print of each directory")->capture_default_str()->check(CLI::PositiveNumber);
+  app.add_option("--rows", _rows, "Rows to print of each directory")->capture_default_str()->check(CLI::Range(1, INT_MAX));
   app.add_option("DIRECTORY", _directory, "The directory to show; nothing outside it is")->required();
   try
   {
