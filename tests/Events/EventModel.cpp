@@ -4,9 +4,15 @@
 
 const EventModel::Run* EventModel::Dispatch::Next()
 {
-  while (_next < _runs.size() && _isConsumed && !_runs[_next]._handlesConsumed)
+  while (_next < _runs.size() && !Runs(_runs[_next]))
     ++_next;
   return _next < _runs.size() ? &_runs[_next++] : nullptr;
+}
+
+bool EventModel::Dispatch::WillRun(Id i_handler) const
+{
+  return std::any_of(_runs.begin() + static_cast<std::ptrdiff_t>(_next), _runs.end(),
+                     [&](const Run& i_run) { return i_run._handler == i_handler && Runs(i_run); });
 }
 
 void EventModel::Add(Store& io_store, Id i_event, Id i_handler, bool i_handlesConsumed)
@@ -31,22 +37,17 @@ EventModel::List EventModel::GetHandlers(Store& io_store, Id i_event)
   return list;
 }
 
-EventModel::Dispatch EventModel::Begin(const std::vector<Stop>& i_route, Id i_event)
+void EventModel::TakeLists(const Stop& i_stop, Id i_event, Dispatch& io_dispatch)
 {
-  std::vector<Run> runs;
-  for (const Stop& stop : i_route)
-  {
-    for (const Id itsClass : stop._classes)
-      AddRuns(stop._node, AtClass(itsClass), i_event, runs);
-    AddRuns(stop._node, AtNode(stop._node), i_event, runs);
-  }
-  return Dispatch(runs);
+  for (const Id itsClass : i_stop._classes)
+    AddRuns(i_stop._node, AtClass(itsClass), i_event, io_dispatch);
+  AddRuns(i_stop._node, AtNode(i_stop._node), i_event, io_dispatch);
 }
 
-void EventModel::AddRuns(Id i_node, Store& io_store, Id i_event, std::vector<Run>& io_runs)
+void EventModel::AddRuns(Id i_node, Store& io_store, Id i_event, Dispatch& io_dispatch)
 {
   for (const Registration& each : GetHandlers(io_store, i_event))
-    io_runs.push_back({i_node, each._handler, each._handlesConsumed});
+    io_dispatch.Add({i_node, each._handler, each._handlesConsumed});
 }
 
 template <class Visit>

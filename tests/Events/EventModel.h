@@ -1,5 +1,5 @@
 // EventModel: what routed events must do, told slowly with lists of numbers, to compare the real ones with.
-// EventModel model; model.Add(model.AtNode(1), event, handler, false); auto dispatch = model.Begin(route, event);
+// EventModel model; model.Add(model.AtNode(1), event, handler, false); model.TakeLists(stop, event, dispatch);
 //
 // Everything is a number: nodes, classes, events, handlers. Nothing is shared: every list is a copy.
 #ifndef EventModel_H
@@ -8,7 +8,6 @@
 #include <iterator>
 #include <map>
 #include <set>
-#include <utility>
 #include <vector>
 
 class EventModel
@@ -28,16 +27,19 @@ public:
     Id _handler;
     bool _handlesConsumed;
   };
-  // One dispatch: what is to run is settled from the beginning.
+  // One dispatch: what is to run is settled before any of it runs.
   class Dispatch
   {
   public:
-    explicit Dispatch(std::vector<Run> i_runs) : _runs(std::move(i_runs)) {}
+    void Add(const Run& i_run) { _runs.push_back(i_run); }
     // What runs next, null at the end.
     const Run* Next();
     void Consume() { _isConsumed = true; }
+    bool WillRun(Id i_handler) const;
 
   private:
+    bool Runs(const Run& i_run) const { return !_isConsumed || i_run._handlesConsumed; }
+
     std::vector<Run> _runs;
     std::size_t _next = 0;
     bool _isConsumed = false;
@@ -51,14 +53,13 @@ public:
 
   Store& AtNode(Id i_node) { return _nodes[i_node]; }
   Store& AtClass(Id i_class) { return _classes[i_class]; }
+  void ForgetNode(Id i_node) { _nodes.erase(i_node); }
+  void ForgetClasses() { _classes.clear(); }
   // Forgets all others.
-  void KeepNodes(const std::set<Id>& i_nodes)
-  {
-    Keep(i_nodes, _nodes, [](const auto& i_each) { return i_each.first; });
-  }
   void KeepDead(const std::set<Id>& i_handlers)
   {
-    Keep(i_handlers, _dead, [](Id i_each) { return i_each; });
+    for (auto it = _dead.begin(); it != _dead.end();)
+      it = i_handlers.count(*it) ? std::next(it) : _dead.erase(it);
   }
 
   static void Add(Store& io_store, Id i_event, Id i_handler, bool i_handlesConsumed);
@@ -68,21 +69,16 @@ public:
   bool IsDead(Id i_handler) const { return _dead.count(i_handler) > 0; }
   // The list for the event, without the dead, who are gone for good.
   List GetHandlers(Store& io_store, Id i_event);
-  Dispatch Begin(const std::vector<Stop>& i_route, Id i_event);
+  // The route reaches that node: everything that runs there is known now.
+  void TakeLists(const Stop& i_stop, Id i_event, Dispatch& io_dispatch);
 
   int CountRegistrations() const;
   void AddHandlersTo(std::set<Id>& io_handlers) const;
 
 private:
-  template <class Container, class GetId>
-  static void Keep(const std::set<Id>& i_ids, Container& io_container, GetId i_getId)
-  {
-    for (auto it = io_container.begin(); it != io_container.end();)
-      it = i_ids.count(i_getId(*it)) ? std::next(it) : io_container.erase(it);
-  }
   template <class Visit>
   void VisitRegistrations(Visit i_visit) const;
-  void AddRuns(Id i_node, Store& io_store, Id i_event, std::vector<Run>& io_runs);
+  void AddRuns(Id i_node, Store& io_store, Id i_event, Dispatch& io_dispatch);
 
   std::map<Id, Store> _nodes;
   std::map<Id, Store> _classes;

@@ -1,5 +1,6 @@
-// Random operations on nodes, stores, handlers and dispatches, from outside and from within handlers, each compared with
-// EventModel as it happens.
+// Random operations on nodes, stores, handlers and dispatches, from outside, from within handlers and from the ends of
+// handlers, each compared with EventModel as it happens. The model comes first in each operation: the real one may be the
+// end of a handler that goes on with another operation.
 #include "EventModel.h"
 #include "RecordingFailureHandler.h"
 #include "SoakOperations.h"
@@ -59,13 +60,16 @@ class SoakNode : public ZELBaseUnknown
   ZELDeclareClass;
 
 public:
-  SoakNode(Id i_id, int i_place) : _id(i_id), _place(i_place) { ++s_living; }
-  ~SoakNode() override { --s_living; }
+  SoakNode(Soak& io_soak, Id i_id, int i_place) : _id(i_id), _place(i_place), _soak(io_soak) { ++s_living; }
+  ~SoakNode() override;
 
   const Id _id;
   const int _place;
   ZELSYPEventHandlersSupport _support;
   static int s_living;
+
+private:
+  Soak& _soak;
 };
 int SoakNode::s_living = 0;
 ZELImplementClass(SoakNode, ZELBaseUnknown, EventSoakTest);
@@ -89,13 +93,14 @@ class SoakHandler : public ZELSYPEventHandler
   ZELDeclareClass;
 
 public:
-  SoakHandler(Soak& io_soak, Id i_id, ZELMetaClass* i_pArgumentsClass);
+  SoakHandler(Soak& io_soak, Id i_id, ZELMetaClass* i_pArgumentsClass, bool i_hasLastWords);
   ~SoakHandler() override;
   void Handle(ZELBaseUnknown* i_pNode, ZELSYPEventArgs* i_pArgs) override;
   ZELMetaClass* GetArgumentsClass() override { return _pArgumentsClass; }
   int MustBeRemoved() override { return _isDead; }
 
   const Id _id;
+  const bool _hasLastWords;
   bool _isDead = false;
   static int s_living;
 
@@ -130,7 +135,7 @@ class TreeBuilder : public ZELSYPSupportsEventPathBuilder
 public:
   explicit TreeBuilder(Soak& io_soak) : _soak(io_soak) {}
   ZELBaseUnknown* GetParent(ZELSYPEventArgs*, ZELBaseUnknown* i_pNode) override;
-  ZELSYPEventHandlersSupport* GetSupportForNode(ZELBaseUnknown* i_pNode) override { return &static_cast<SoakNode*>(i_pNode)->_support; }
+  ZELSYPEventHandlersSupport* GetSupportForNode(ZELBaseUnknown* i_pNode) override;
   ZELSYPClassEventHandlersSupport* GetClassSupportForNode(ZELBaseUnknown*) override;
 
 private:
@@ -155,7 +160,10 @@ public:
 
   // What handlers and builders of this world tell and ask.
   void Enter(SoakHandler& io_handler) { _living[io_handler._id] = &io_handler; }
-  void Leave(const SoakHandler& i_handler) { _living.erase(i_handler._id); }
+  void HandlerDies(const SoakHandler& i_handler);
+  void NodeDies(const SoakNode& i_node) { _model.ForgetNode(i_node._id); }
+  // The route reaches the node.
+  void Reach(const SoakNode& i_node) { Reach(i_node, *_raised.back()); }
   void HandlerRuns(SoakHandler& io_handler, SoakNode& io_node, ZELSYPEventArgs& io_args);
   SoakNode* GetParent(const SoakNode& i_node);
   ZELSYPClassEventHandlersSupport* GetClassSupport() { return _spClassSupport.get(); }
@@ -175,9 +183,11 @@ private:
   };
   struct Raised
   {
-    EventModel::Dispatch _model;
+    std::vector<EventModel::Stop> _route;
     int _event;
     ZELSYPEventArgs* _pArgs;
+    std::size_t _reached = 0; // stops of the route
+    EventModel::Dispatch _model{};
   };
 
   void Step();
@@ -189,6 +199,7 @@ private:
   void KillSome();
   void RenewHandler();
   void RenewNode();
+  void RenewClasses();
   void MoveNode();
   void ReplaceStore();
   void TakeList();
@@ -197,8 +208,8 @@ private:
   void DispatchTo(int i_place, int i_event, ZELSYPEventArgs& io_args);
   void DispatchWithWrongArguments(int i_place);
   void DispatchWithWrongOrigin(int i_place);
-  void RunBeside(ZELSYPEventPathBuilder& io_builder, int i_place, std::vector<EventModel::Stop> i_route, int i_event,
-                 ZELSYPEventArgs& io_args);
+  void RunBeside(ZELSYPEventPathBuilder& io_builder, int i_place, Raised& io_raised);
+  void Reach(const SoakNode& i_node, Raised& io_raised);
   std::vector<EventModel::Stop> FindRoute(int i_place, int i_event) const;
   EventModel::Stop GetStop(int i_place) const;
 
@@ -206,6 +217,7 @@ private:
   SoakHandler& SomeHandler();
   Id SomeHandlerOf(const EventModel::Store& i_store, int i_event);
   Id NewId() { return ++_lastId; }
+  bool IsNeeded(Id i_handler) const;
   void CheckReports();
   void CheckWhoLives();
   template <class One, class Other>
@@ -219,6 +231,7 @@ private:
   Id _lastId = 0;
   long _operations = 0;
   int _stepsInHandlers = 0;
+  bool _isClosing = false;
   std::string _disagreement;
 
   ZELSYPEventFactory _factory;
@@ -231,8 +244,14 @@ private:
   std::vector<Raised*> _raised; // the dispatches that run, the innermost one last
 };
 
-SoakHandler::SoakHandler(Soak& io_soak, Id i_id, ZELMetaClass* i_pArgumentsClass)
-    : _id(i_id), _soak(io_soak), _pArgumentsClass(i_pArgumentsClass)
+SoakNode::~SoakNode()
+{
+  _soak.NodeDies(*this);
+  --s_living;
+}
+
+SoakHandler::SoakHandler(Soak& io_soak, Id i_id, ZELMetaClass* i_pArgumentsClass, bool i_hasLastWords)
+    : _id(i_id), _hasLastWords(i_hasLastWords), _soak(io_soak), _pArgumentsClass(i_pArgumentsClass)
 {
   ++s_living;
   _soak.Enter(*this);
@@ -240,8 +259,8 @@ SoakHandler::SoakHandler(Soak& io_soak, Id i_id, ZELMetaClass* i_pArgumentsClass
 
 SoakHandler::~SoakHandler()
 {
-  _soak.Leave(*this);
   --s_living;
+  _soak.HandlerDies(*this);
 }
 
 void SoakHandler::Handle(ZELBaseUnknown* i_pNode, ZELSYPEventArgs* i_pArgs)
@@ -252,6 +271,13 @@ void SoakHandler::Handle(ZELBaseUnknown* i_pNode, ZELSYPEventArgs* i_pArgs)
 ZELBaseUnknown* TreeBuilder::GetParent(ZELSYPEventArgs*, ZELBaseUnknown* i_pNode)
 {
   return _soak.GetParent(*static_cast<SoakNode*>(i_pNode));
+}
+
+ZELSYPEventHandlersSupport* TreeBuilder::GetSupportForNode(ZELBaseUnknown* i_pNode)
+{
+  SoakNode& node = *static_cast<SoakNode*>(i_pNode);
+  _soak.Reach(node);
+  return &node._support;
 }
 
 ZELSYPClassEventHandlersSupport* TreeBuilder::GetClassSupportForNode(ZELBaseUnknown*)
@@ -281,11 +307,11 @@ ZELMetaClass* GetClass(int i_class)
   return classes[i_class];
 }
 
-SoakNode* NewNode(int i_class, Id i_id, int i_place)
+SoakNode* NewNode(Soak& io_soak, int i_class, Id i_id, int i_place)
 {
   if (i_class == LeafClass)
-    return new SoakLeafNode(i_id, i_place);
-  return i_class == MiddleClass ? new SoakMiddleNode(i_id, i_place) : new SoakNode(i_id, i_place);
+    return new SoakLeafNode(io_soak, i_id, i_place);
+  return i_class == MiddleClass ? new SoakMiddleNode(io_soak, i_id, i_place) : new SoakNode(io_soak, i_id, i_place);
 }
 
 Soak::Soak(std::uint64_t i_seed) : _dice(i_seed)
@@ -295,15 +321,16 @@ Soak::Soak(std::uint64_t i_seed) : _dice(i_seed)
              _factory.NewEvent("OriginOnly", ZELSYPEvent::NoPropagation, ZELSYPEventArgs::MetaObject(), SoakNode::MetaObject())};
   _parents.fill(-1);
   for (int place = 0; place < s_nodes; ++place)
-    _nodes[static_cast<std::size_t>(place)] = ZELHandle<SoakNode>::Adopt(NewNode(_dice.Throw(ClassCount), NewId(), place));
+    _nodes[static_cast<std::size_t>(place)] = ZELHandle<SoakNode>::Adopt(NewNode(*this, _dice.Throw(ClassCount), NewId(), place));
   for (int place = s_nodes - 1; place > 0; --place)
     _parents[static_cast<std::size_t>(place)] = place - 1;
   for (ZELHandle<SoakHandler>& spHandler : _held)
-    spHandler = ZELHandle<SoakHandler>::Adopt(new SoakHandler(*this, NewId(), ZELSYPEventArgs::MetaObject()));
+    spHandler = ZELHandle<SoakHandler>::Adopt(new SoakHandler(*this, NewId(), ZELSYPEventArgs::MetaObject(), false));
 }
 
 int Soak::Close()
 {
+  _isClosing = true;
   _lists = {};
   _nodes = {};
   _held = {};
@@ -341,7 +368,7 @@ void Soak::Run(long i_operations)
 void Soak::Step()
 {
   ++_operations;
-  switch (_dice.Throw(16))
+  switch (_dice.Throw(17))
   {
   case 0:
   case 1:
@@ -365,6 +392,8 @@ void Soak::Step()
     return ReplaceStore();
   case 12:
     return TakeList();
+  case 13:
+    return _dice.IsOneOf(8) ? RenewClasses() : RemoveSome();
   default:
     return DispatchSome();
   }
@@ -392,9 +421,10 @@ void Soak::RemoveHandler(const Store& i_store, int i_event, Id i_handler)
     return;
   SoakHandler* const pHandler = found->second;
   ZELSYPEvent* const pEvent = _events[static_cast<std::size_t>(i_event)];
+  const bool isThere = EventModel::Remove(i_store._model, i_event, i_handler);
   const int result = i_store._pSupport ? i_store._pSupport->RemoveHandler(pEvent, pHandler)
                                        : _spClassSupport->RemoveClassHandler(i_store._pClass, pEvent, pHandler);
-  Compare("the answer of RemoveHandler", result, EventModel::Remove(i_store._model, i_event, i_handler) ? 1 : 0);
+  Compare("the answer of RemoveHandler", result, isThere ? 1 : 0);
 }
 
 void Soak::RemoveSome()
@@ -420,14 +450,21 @@ void Soak::KillSome()
 void Soak::RenewHandler()
 {
   ZELMetaClass* const pArguments = _dice.IsOneOf(4) ? SoakArgs::MetaObject() : ZELSYPEventArgs::MetaObject();
-  _held[static_cast<std::size_t>(_dice.Throw(s_heldHandlers))] = ZELHandle<SoakHandler>::Adopt(new SoakHandler(*this, NewId(), pArguments));
+  _held[static_cast<std::size_t>(_dice.Throw(s_heldHandlers))] =
+      ZELHandle<SoakHandler>::Adopt(new SoakHandler(*this, NewId(), pArguments, _dice.IsOneOf(2)));
 }
 
 // The old node may live on in the route of a dispatch, with its store.
 void Soak::RenewNode()
 {
   const int place = _dice.Throw(s_nodes);
-  _nodes[static_cast<std::size_t>(place)] = ZELHandle<SoakNode>::Adopt(NewNode(_dice.Throw(ClassCount), NewId(), place));
+  _nodes[static_cast<std::size_t>(place)] = ZELHandle<SoakNode>::Adopt(NewNode(*this, _dice.Throw(ClassCount), NewId(), place));
+}
+
+void Soak::RenewClasses()
+{
+  _model.ForgetClasses();
+  _spClassSupport = std::make_unique<ZELSYPClassEventHandlersSupport>();
 }
 
 void Soak::MoveNode()
@@ -454,8 +491,10 @@ void Soak::TakeList()
   CheckList(held);
   SoakNode& node = *_nodes[static_cast<std::size_t>(_dice.Throw(s_nodes))];
   const int event = _dice.Throw(EventCount);
-  held._list = node._support.GetHandlersList(_events[static_cast<std::size_t>(event)]);
-  held._model = _model.GetHandlers(_model.AtNode(node._id), event);
+  HeldList taken;
+  taken._model = _model.GetHandlers(_model.AtNode(node._id), event);
+  taken._list = node._support.GetHandlersList(_events[static_cast<std::size_t>(event)]);
+  std::swap(held, taken);
   CheckList(held);
 }
 
@@ -492,24 +531,27 @@ void Soak::DispatchSome()
 
 void Soak::DispatchTo(int i_place, int i_event, ZELSYPEventArgs& io_args)
 {
+  SoakNode& node = *_nodes[static_cast<std::size_t>(i_place)];
   if (_dice.IsOneOf(8))
   {
-    ZELSYPSingleEventPathBuilder builder(&_nodes[static_cast<std::size_t>(i_place)]->_support, _spClassSupport.get());
-    return RunBeside(builder, i_place, {GetStop(i_place)}, i_event, io_args);
+    ZELSYPSingleEventPathBuilder builder(&node._support, _spClassSupport.get());
+    Raised raised{{GetStop(i_place)}, i_event, &io_args};
+    Reach(node, raised);
+    return RunBeside(builder, i_place, raised);
   }
   TreeBuilder builder(*this);
-  RunBeside(builder, i_place, FindRoute(i_place, i_event), i_event, io_args);
+  Raised raised{FindRoute(i_place, i_event), i_event, &io_args};
+  RunBeside(builder, i_place, raised);
 }
 
-void Soak::RunBeside(ZELSYPEventPathBuilder& io_builder, int i_place, std::vector<EventModel::Stop> i_route, int i_event,
-                     ZELSYPEventArgs& io_args)
+void Soak::RunBeside(ZELSYPEventPathBuilder& io_builder, int i_place, Raised& io_raised)
 {
-  Raised raised{_model.Begin(i_route, i_event), i_event, &io_args};
-  _raised.push_back(&raised);
-  const int result = io_builder.Dispatch(_nodes[static_cast<std::size_t>(i_place)], &io_args);
+  _raised.push_back(&io_raised);
+  const int result = io_builder.Dispatch(_nodes[static_cast<std::size_t>(i_place)], io_raised._pArgs);
   _raised.pop_back();
   Compare("the answer of Dispatch", result, 1);
-  const EventModel::Run* const pLeft = raised._model.Next();
+  Compare("the number of nodes reached", io_raised._reached, io_raised._route.size());
+  const EventModel::Run* const pLeft = io_raised._model.Next();
   Compare("the handler that should run after the last one", pLeft ? pLeft->_handler : 0, 0);
 }
 
@@ -555,6 +597,27 @@ SoakNode* Soak::GetParent(const SoakNode& i_node)
 {
   const int parent = _parents[static_cast<std::size_t>(i_node._place)];
   return parent < 0 ? nullptr : &*_nodes[static_cast<std::size_t>(parent)];
+}
+
+// The stores of a node are asked once, and what they drop then lives until both have answered.
+void Soak::Reach(const SoakNode& i_node, Raised& io_raised)
+{
+  const bool isOnRoute = io_raised._reached < io_raised._route.size();
+  Compare("the node that is reached", i_node._id, isOnRoute ? io_raised._route[io_raised._reached]._node : 0);
+  if (isOnRoute)
+    _model.TakeLists(io_raised._route[io_raised._reached++], io_raised._event, io_raised._model);
+}
+
+void Soak::HandlerDies(const SoakHandler& i_handler)
+{
+  _living.erase(i_handler._id);
+  if (_isClosing || !_disagreement.empty())
+    return;
+  Compare("whether a handler is needed as it dies", IsNeeded(i_handler._id), false);
+  if (!i_handler._hasLastWords || _stepsInHandlers >= s_mostStepsInHandlers || _raised.size() >= s_deepest)
+    return;
+  ++_stepsInHandlers;
+  return _dice.IsOneOf(2) ? ReplaceStore() : Step();
 }
 
 void Soak::HandlerRuns(SoakHandler& io_handler, SoakNode& io_node, ZELSYPEventArgs& io_args)
@@ -619,6 +682,20 @@ Id Soak::SomeHandlerOf(const EventModel::Store& i_store, int i_event)
   return found->second[static_cast<std::size_t>(_dice.Throw(static_cast<int>(found->second.size())))]._handler;
 }
 
+// Whether it is registered somewhere, held here, or has its turn before it in a dispatch.
+bool Soak::IsNeeded(Id i_handler) const
+{
+  std::set<Id> needed;
+  _model.AddHandlersTo(needed);
+  for (const ZELHandle<SoakHandler>& spHandler : _held)
+    needed.insert(spHandler->_id);
+  for (const HeldList& held : _lists)
+    for (const EventModel::Registration& each : held._model)
+      needed.insert(each._handler);
+  return needed.count(i_handler) > 0 ||
+         std::any_of(_raised.begin(), _raised.end(), [=](const Raised* i_pRaised) { return i_pRaised->_model.WillRun(i_handler); });
+}
+
 void Soak::CheckReports()
 {
   const std::vector<std::string> reports = _failures.GetMessages();
@@ -636,10 +713,6 @@ void Soak::CheckWhoLives()
 {
   Compare("the number of living nodes", SoakNode::s_living, s_nodes);
   Compare("the number of living arguments", SoakArgs::s_living, 0);
-  std::set<Id> nodes;
-  for (const ZELHandle<SoakNode>& spNode : _nodes)
-    nodes.insert(spNode->_id);
-  _model.KeepNodes(nodes);
   std::set<Id> handlers;
   _model.AddHandlersTo(handlers);
   for (const ZELHandle<SoakHandler>& spHandler : _held)
