@@ -1,16 +1,14 @@
-// Its twin says the same of the other platform's libraries.
 #include "ChildProcess.h"
 #include "ChildProgram.h"
+#include "LibraryOfClasses.h"
 #include "ZELBaseUnknown_var.h"
 
 #include <cstdio>
-#include <dlfcn.h>
 #include <gtest/gtest.h>
 
 OPX_CHILD_ENTRY(UnloadALibraryWithClasses)
 {
-  void* const pLibrary = dlopen("libHostObjectModelTestLibrary.so", RTLD_LAZY);
-  std::printf("%d %d\n", pLibrary != nullptr, pLibrary && dlclose(pLibrary) == 0);
+  std::printf("%d\n", LibraryOfClasses::LoadAndUnload());
   const ZELBaseUnknown_var object = ZELBaseUnknown_var::Adopt(ZELMetaClass::Find("LateCommand")->CreateObject());
   std::puts(object->IsA());
   return 0;
@@ -19,5 +17,5 @@ OPX_CHILD_ENTRY(UnloadALibraryWithClasses)
 TEST(ZELMetaClass, OutlivesTheUnloadingOfItsLibrary)
 {
   const std::string folder = ChildProcess::GetProgramFolder() + "/libraries-of-tests/HostObjectModel";
-  EXPECT_EQ(ChildProcess::Self("UnloadALibraryWithClasses").SearchLibrariesIn(folder).Run().out, "1 1\nLateCommand\n");
+  EXPECT_EQ(ChildProcess::Self("UnloadALibraryWithClasses").SearchLibrariesIn(folder).Run().out, "1\nLateCommand\n");
 }
