@@ -22,8 +22,11 @@ public:                                                                         
   [[maybe_unused]] static ZELBaseUnknown* CreateItself();                                                                                  \
   [[maybe_unused]] ZELMetaClass* GetMetaObject() const override
 
-// In the body of an interface: a class of pure operations whose id is given in ZELImplementInterface.
+// In the body of an interface: a class of pure operations whose id is given in ZELImplementInterface. Its handle is named
+// after it, before the class or after it:     using Shape_var = ZELHandle<Shape>;
 #define ZELDeclareInterface ZELDeclareClass
+template <class T>
+class ZELHandle;
 
 class OPXHOSTRUNTIME_EXPORT ZELBaseUnknown
 {
@@ -73,6 +76,8 @@ public:
 
 private:
   friend class ZELExtensionTable;
+  template <class Interface>
+  friend class ZELExtension;
   int AddRefOwner();
   int ReleaseOwner();
   void Destroy();
@@ -86,13 +91,16 @@ private:
   std::atomic<bool> _hasExtensions{false};
 };
 
+// Whether the class is declared with ZELDeclareClass itself, and not its base only.
+template <class Class>
+inline constexpr bool ZELHasRecord_ = std::is_same_v<decltype(&Class::GetMetaObject), ZELMetaClass* (Class::*)() const>;
+
 // For the macros below: what must hold for a class to have a record. Answers true, or does not compile.
 template <class Class, class Base>
 constexpr bool ZELCheckClass_()
 {
   static_assert(std::is_base_of_v<Base, Class>, "the class does not derive from the base that is named for it");
-  static_assert(std::is_same_v<decltype(&Base::GetMetaObject), ZELMetaClass* (Base::*)() const>,
-                "the base of the class is not declared with ZELDeclareClass");
+  static_assert(ZELHasRecord_<Base>, "the base of the class is not declared with ZELDeclareClass");
   static_assert(std::is_convertible_v<Class*, ZELBaseUnknown*>,
                 "the class derives from ZELBaseUnknown twice: offer the second interface by an extension");
   return true;
@@ -137,9 +145,10 @@ constexpr bool ZELCheckClass_()
 // or it is, with its default constructor,
 #define ZELImplementCreatableClass(Class, Base, Module)                                                                                    \
   ZELImplementDerived_(__LINE__, Class, Base, Module, ZELClassId::FromName(#Class), new Class)
-// or it is an interface, with the id that names it (a ZELIID that is no null id).
+// or it is an interface, with the id that names it (a ZELIID that is no null id) and the handle that is named after it.
 #define ZELImplementInterface(Class, Base, Module, Id)                                                                                     \
   static_assert(!(Id).IsNull(), "the id of the interface is no id");                                                                       \
+  static_assert(std::is_same_v<Class##_var, ZELHandle<Class>>, "the name that ends in _var is not the handle of the interface");           \
   ZELImplementDerived_(__LINE__, Class, Base, Module, Id, nullptr)
 
 // NOLINTEND(bugprone-macro-parentheses)

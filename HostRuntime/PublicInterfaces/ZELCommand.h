@@ -15,7 +15,7 @@ class OPXHOSTRUNTIME_EXPORT ZELCommand : public ZELBaseUnknown
 {
   ZELDeclareClass;
 
-  // The last child of i_pFather; without a father for null.
+  // The last child of i_pFather; without a father for null and for one that is being destroyed.
   explicit ZELCommand(ZELCommand* i_pFather = nullptr, const ZELString& i_name = ZELString());
   ~ZELCommand() override;
 
@@ -28,9 +28,9 @@ class OPXHOSTRUNTIME_EXPORT ZELCommand : public ZELBaseUnknown
   // The first child of that name, null when there is none.
   ZELCommand* FindChild(const ZELString& i_name) const;
 
-  // 1: this is the last child of i_pFather now, with all its own children; a root for null. 0, and nothing changes: i_pFather is this
-  // command or stands below it. The father of before gives its reference back last, so that a command that nobody else
-  // holds is destroyed when it becomes a root.
+  // 1: this is the last child of i_pFather now, with all its own children; a root for null. 0, and nothing changes:
+  // i_pFather is this command or stands below it, or either is being destroyed. The father of before gives its reference
+  // back last, so that a command that nobody else holds is destroyed when it becomes a root.
   int SetFather(ZELCommand* i_pFather);
 
 private:
@@ -51,13 +51,20 @@ private:
   bool StandsBelow(const ZELCommand* i_pCommand) const;
   void Enter(ZELCommand* i_pFather, Link* io_pRing);
   void Leave();
+  // The children of commands that are gone, and the one among them whose reference is being given back.
+  struct Orphans : Link
+  {
+    const ZELCommand* _pReleased = nullptr;
+  };
   void OrphanChildren();
-  static void ReleaseAll(Link* io_pRing);
+  void MoveChildrenTo(Orphans& io_orphans);
+  static void ReleaseAll(Orphans& io_orphans);
 
   ZELString _name;
   ZELCommand* _pFather = nullptr;
   Link _children;
   Place _place{this};
+  bool _isGoing = false;
 };
 
 #endif

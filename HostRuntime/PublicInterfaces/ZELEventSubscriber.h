@@ -24,14 +24,15 @@ class OPXHOSTRUNTIME_EXPORT ZELEventSubscriber : public ZELBaseUnknown
   ~ZELEventSubscriber() override;
 
   // The callback is called from the next notification on, after those that were there before. 0, and nothing is kept, for
-  // an empty callback.
+  // an empty callback, and once the object is being destroyed.
   Subscription Subscribe(Callback i_callback);
   // 1: the callback is not called any more, in a notification that is under way neither. 0: there is no such subscription.
   // The callback itself is destroyed when no notification is under way.
   int Unsubscribe(Subscription i_subscription);
 
   // Calls the callbacks in the order of their subscription. What one of them throws comes out of here, and the later ones are
-  // not called. When one destroys this object, the later ones are not called.
+  // not called. When one destroys this object, the later ones are not called; those that are running then, and what they
+  // captured, outlive it until they return, all others go first.
   void Notify(ZELBaseUnknown* i_pArgument = nullptr);
 
 private:

@@ -17,6 +17,9 @@ class ZELExtension : public Interface
 public:
   using Interface::Interface;
 
+  // What is left, the interface, counts alone.
+  ~ZELExtension() override { ZELBaseUnknown::_isExtension = false; }
+
   ZELBaseUnknown* GetImpl(int i_which = 0) override { return i_which == 0 && _pOwner ? _pOwner : Interface::GetImpl(i_which); }
 
 private:
@@ -30,7 +33,7 @@ private:
 class OPXHOSTRUNTIME_EXPORT ZELExtensionTable
 {
 public:
-  // io_owner takes over the only reference on io_extension.
+  // io_owner takes over the maker's reference on io_extension; further ones become references on io_owner.
   static void Attach(ZELBaseUnknown& io_owner, ZELBaseUnknown& io_extension);
 
 private:

@@ -1,6 +1,7 @@
 // ZELHandle<T>: a pointer to a counted object that holds one reference on it.
 // ZELHandle<Part> part = ZELHandle<Part>::Adopt(new Part); ZELHandle<Shape> shape(part);     null unless a part offers Shape
 //
+// The handle of an interface has a name: using Shape_var = ZELHandle<Shape>;
 // One pointer in size. One thread at a time a handle; the object may be held by handles of many threads.
 #ifndef ZELHandle_H
 #define ZELHandle_H
@@ -26,7 +27,7 @@ public:
   }
   ZELHandle(const ZELHandle& i_other) noexcept : ZELHandle(i_other._pObject) {}
   ZELHandle(ZELHandle&& io_other) noexcept : _pObject(io_other.Detach()) {}
-  // What i_pObject offers as T, null when it does not: asks QueryInterface.
+  // What i_pObject offers as T, null when it does not: asks QueryInterface. T must have a record of its own.
   template <class U, std::enable_if_t<!std::is_convertible_v<U*, T*> && std::is_convertible_v<U*, ZELBaseUnknown*>, int> = 0>
   explicit ZELHandle(U* i_pObject) : _pObject(Query(i_pObject))
   {
@@ -76,6 +77,7 @@ public:
 private:
   static T* Query(ZELBaseUnknown* i_pObject)
   {
+    static_assert(ZELHasRecord_<T>, "the class that is asked for is not declared with ZELDeclareClass");
     void* pFound = nullptr;
     if (i_pObject)
       i_pObject->QueryInterface(T::ClassId(), &pFound);

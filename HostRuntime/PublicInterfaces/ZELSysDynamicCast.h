@@ -12,9 +12,11 @@ inline ZELBaseUnknown* ZELSysDynamicCast(const ZELMetaClass* i_pClass, ZELBaseUn
 {
   return i_pObject && i_pObject->IsAKindOf(i_pClass) ? i_pObject : nullptr;
 }
+// The same for T, which must have a record of its own.
 template <class T>
 T* ZELSysDynamicCast(ZELBaseUnknown* i_pObject)
 {
+  static_assert(ZELHasRecord_<T>, "the class that is asked for is not declared with ZELDeclareClass");
   return static_cast<T*>(ZELSysDynamicCast(T::MetaObject(), i_pObject));
 }
 

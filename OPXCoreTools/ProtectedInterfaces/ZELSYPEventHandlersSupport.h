@@ -26,8 +26,9 @@ public:
   // 1: the handler stands last in the event's list, and is held. Registered twice, it runs twice.
   // 0, and nothing is stored: no event ("i_pEvent"), no handler ("i_pHandler"), a handler without an arguments class
   // ("pHandlerArgumentsClass"), an event without an argument type ("pEventArgumentsClass"), or a handler whose arguments
-  // class the event's argument type is not a kind of ("The handler expects argument of type ..."); no memory, or a
-  // store that is being destroyed ("pList").
+  // class the event's argument type is not a kind of ("The handler expects argument of type ..."); no memory for the
+  // event's first list, or a store that is being destroyed ("pList").
+  // 1, and nothing is stored: the event's list finds no memory ("_pSharedData" or "plNewArray").
   // i_handleConsumedEvents other than 0: the handler also runs once the arguments are consumed.
   int AddHandler(ZELSYPEvent* i_pEvent, ZELSYPEventHandler* i_pHandler, int i_handleConsumedEvents);
   // 1: the first registration of this very handler is taken out. 0: there is none; no event ("i_pEvent"); no handler

@@ -3,6 +3,7 @@
 #include "RecordingFailureHandler.h"
 #include "ZELSYPEventHandlerInfo.h"
 #include "ZELSYPEventHandlerInfoList.h"
+#include "ZELSYPEventHandlersSupport.h"
 
 #include <gmock/gmock.h>
 
@@ -109,4 +110,30 @@ TEST(EventsWithoutMemoryTest, RegistrationThatFindsNoRoomIsNotHeld)
   EXPECT_THAT(failures.GetMessages(), ElementsAre("pointer plNewArray is NULL"));
   EXPECT_EQ(1, list.GetSize());
   EXPECT_EQ(1, CountReferences(info.Get()));
+}
+
+TEST(EventsWithoutMemoryTest, AdditionIsAnsweredButNotStoredWhenTheListOfTheEventFindsNoMemory)
+{
+  RecordingFailureHandler failures;
+  OpenFactory factory;
+  ZELSYPEvent* const pOpened = factory.NewDoorEvent("Opened");
+  const auto handler = CountedHandler::New();
+  // On a thread of its own, which has no blocks of earlier lists.
+  std::thread(
+      [&]
+      {
+        ZELSYPEventHandlersSupport support;
+        EXPECT_EQ(1, support.AddHandler(pOpened, handler.Get(), 0));
+        const ZELSYPEventHandlerInfoList snapshot = support.GetHandlersList(pOpened);
+        {
+          AllocationFailures refused;
+          EXPECT_EQ(1, support.AddHandler(pOpened, handler.Get(), 0));
+        }
+        EXPECT_EQ(1, support.GetHandlersCount(pOpened));
+        EXPECT_EQ(2, CountReferences(handler.Get()));
+        EXPECT_EQ(1, support.AddHandler(pOpened, handler.Get(), 0));
+        EXPECT_EQ(2, support.GetHandlersCount(pOpened));
+      })
+      .join();
+  EXPECT_THAT(failures.GetMessages(), ElementsAre("pointer _pSharedData is NULL"));
 }

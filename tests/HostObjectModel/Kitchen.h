@@ -40,12 +40,14 @@ class Washable : public ZELBaseUnknown
   ZELDeclareInterface;
   virtual int Wash() = 0;
 };
+using Washable_var = ZELHandle<Washable>;
 
 class Breakable : public ZELBaseUnknown
 {
   ZELDeclareInterface;
   virtual int Break() = 0;
 };
+using Breakable_var = ZELHandle<Breakable>;
 
 // What comes first makes an object and its counted part begin at different addresses.
 struct Glaze
@@ -57,9 +59,6 @@ class Plate : public Glaze, public Washable
   ZELDeclareClass;
   int Wash() override { return 1; }
 };
-
-using Washable_var = ZELHandle<Washable>;
-using Breakable_var = ZELHandle<Breakable>;
 
 // The count that stands, as AddRef and Release tell it.
 inline int CountOf(ZELBaseUnknown* i_pObject)

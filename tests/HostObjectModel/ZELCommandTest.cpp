@@ -246,3 +246,44 @@ TEST_F(ZELCommandTest, CommandMadeBelowOneThatGoesIsDestroyedWithIt)
   ZELHandle<ZELCommand>::Adopt(new Late(nullptr, "father"));
   EXPECT_THAT(goings, ElementsAre("late"));
 }
+
+TEST_F(ZELCommandTest, ChildThatGoesCannotAddToTheFatherThatGoesNorGiveItAFather)
+{
+  struct Clinger : ZELCommand
+  {
+    Clinger(ZELCommand* i_pFather, int& o_answer) : ZELCommand(i_pFather), _pFatherOnce(i_pFather), _answer(o_answer) {}
+    ~Clinger() override
+    {
+      const auto late = ZELHandle<ZELCommand>::Adopt(new Command(_pFatherOnce, "late"));
+      EXPECT_EQ(late->GetFather(), nullptr);
+      _answer = late->SetFather(_pFatherOnce) + _pFatherOnce->SetFather(late);
+    }
+    ZELCommand* const _pFatherOnce;
+    int& _answer;
+  };
+  int answer = 7;
+  (new Clinger(_root, answer))->Release();
+  _root = NULL_var;
+  EXPECT_EQ(answer, 0);
+  EXPECT_THAT(goings, ElementsAre("root", "late"));
+}
+
+TEST_F(ZELCommandTest, TreeThatADestructorDestroysIsGoneWhenItGoesOn)
+{
+  struct Window : ZELCommand
+  {
+    using ZELCommand::ZELCommand;
+    ~Window() override
+    {
+      _menu = NULL_var;
+      goings.push_back("window");
+    }
+    ZELHandle<ZELCommand> _menu = ZELHandle<ZELCommand>::Adopt(new Command(nullptr, "menu"));
+  };
+  Window* const pWindow = new Window(_root);
+  pWindow->Release();
+  Add(Add(pWindow->_menu, "file"), "open");
+  Add(pWindow, "in the window");
+  _root = NULL_var;
+  EXPECT_THAT(goings, ElementsAre("root", "menu", "file", "open", "window", "in the window"));
+}

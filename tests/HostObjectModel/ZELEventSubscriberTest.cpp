@@ -15,6 +15,12 @@ namespace
 {
 static_assert(sizeof(ZELEventSubscriber) == sizeof(ZELBaseUnknown) + sizeof(void*), "one pointer while nobody subscribed");
 
+// Does i_what when the callback that captured it is destroyed.
+std::shared_ptr<void> WhenItGoes(std::function<void()> i_what)
+{
+  return {nullptr, [what = std::move(i_what)](void*) { what(); }};
+}
+
 class ZELEventSubscriberTest : public testing::Test
 {
 protected:
@@ -30,6 +36,10 @@ protected:
           _calls.push_back(i_pName);
           i_then();
         });
+  }
+  Subscription SubscribeWith(std::shared_ptr<void> i_captured)
+  {
+    return _source->Subscribe([this, i_captured](ZELEventSubscriber&, ZELBaseUnknown*) { _calls.push_back("with"); });
   }
   std::vector<std::string> CallsOfNotify()
   {
@@ -258,6 +268,73 @@ TEST_F(ZELEventSubscriberTest, CallbackThatHoldsTheLastReferenceOnTheSourceMayGo
   a = pSource->Subscribe([held = ZELHandle<ZELEventSubscriber>(pSource)](ZELEventSubscriber&, ZELBaseUnknown*) {});
   EXPECT_EQ(pSource->Release(), 1);
   EXPECT_EQ(pSource->Unsubscribe(a), 1);
+}
+
+TEST_F(ZELEventSubscriberTest, CallbackThatGoesWithTheSourceFindsNoSubscriptionToEnd)
+{
+  ZELEventSubscriber* const pSource = _source;
+  const Subscription a = Note("a");
+  Subscription own = 0;
+  std::vector<int> answers;
+  own = SubscribeWith(WhenItGoes([&] { answers = {pSource->Unsubscribe(a), pSource->Unsubscribe(own), pSource->Unsubscribe(own + 1)}; }));
+  Note("c");
+  _source = NULL_var;
+  EXPECT_THAT(answers, ElementsAre(0, 0, 0));
+}
+
+TEST_F(ZELEventSubscriberTest, CallbackThatGoesWithTheSourceCannotSubscribeNorNotify)
+{
+  ZELEventSubscriber* const pSource = _source;
+  const auto captured = std::make_shared<int>(0);
+  Subscription late = 7;
+  SubscribeWith(WhenItGoes(
+      [&, captured]
+      {
+        late = pSource->Subscribe([this, captured](ZELEventSubscriber&, ZELBaseUnknown*) { _calls.push_back("late"); });
+        pSource->Notify();
+      }));
+  Note("b");
+  _source = NULL_var;
+  EXPECT_EQ(late, 0u);
+  EXPECT_THAT(_calls, IsEmpty());
+  EXPECT_EQ(captured.use_count(), 1);
+}
+
+TEST_F(ZELEventSubscriberTest, CallbacksThatDoNotRunGoBeforeTheSourceThatOneOfThemDestroys)
+{
+  ZELEventSubscriber* const pSource = _source;
+  Subscription own = 0;
+  int answer = 7;
+  Note("a", [this] { _source = NULL_var; });
+  own = SubscribeWith(WhenItGoes([&] { answer = pSource->Unsubscribe(own); }));
+  EXPECT_THAT(CallsOfNotify(), ElementsAre("a"));
+  EXPECT_EQ(answer, 0);
+}
+
+TEST_F(ZELEventSubscriberTest, CallbackThatDestroysTheSourceKeepsWhatItCapturedUntilItReturns)
+{
+  int depth = 0;
+  _source->Subscribe(
+      [this, &depth, mine = std::string("a text that is longer than a string holds in itself")](ZELEventSubscriber& io_source,
+                                                                                                ZELBaseUnknown*)
+      {
+        ++depth == 1 ? io_source.Notify() : static_cast<void>(_source = NULL_var);
+        _calls.push_back(mine.substr(0, 6));
+      });
+  EXPECT_THAT(CallsOfNotify(), ElementsAre("a text", "a text"));
+}
+
+TEST_F(ZELEventSubscriberTest, CallbackThatGoesMayEndOthersAndDestroyTheSource)
+{
+  const Subscription c = Note("c");
+  const Subscription a = SubscribeWith(WhenItGoes(
+      [&]
+      {
+        EXPECT_EQ(_source->Unsubscribe(c), 1);
+        _source = NULL_var;
+      }));
+  EXPECT_EQ(_source->Unsubscribe(a), 1);
+  EXPECT_EQ(_source, NULL_var);
 }
 
 TEST_F(ZELEventSubscriberTest, KindOfItsRecordAndNotCreatable)

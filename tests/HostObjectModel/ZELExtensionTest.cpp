@@ -38,6 +38,30 @@ class Sponge : public ZELExtension<Washable>
 };
 ZELImplementClass(Sponge, Washable, Kitchen);
 
+// Lends itself out when the part of it that knows its owner is gone already.
+class Mirror;
+using Mirror_var = ZELHandle<Mirror>;
+class Mirror : public ZELBaseUnknown
+{
+  ZELDeclareInterface;
+  ~Mirror() override
+  {
+    CountOf(this);
+    const Mirror_var lent(this);
+    goings += "asked " + std::to_string(_asked) + " times for its owner ";
+  }
+  // Asked without end it answers another object in the end.
+  ZELBaseUnknown* GetImpl(int) override
+  {
+    static Cup other;
+    return ++_asked < 100 ? this : static_cast<ZELBaseUnknown*>(&other);
+  }
+
+private:
+  int _asked = 0;
+};
+ZELImplementInterface(Mirror, ZELBaseUnknown, Kitchen, ZELClassId::FromText("5E1B90AF-6C23-4D5A-8E39-7A40C2D1F6B3"));
+
 class ZELExtensionTest : public testing::Test
 {
 protected:
@@ -231,6 +255,30 @@ TEST_F(ZELExtensionTest, ExtensionAttachedWhileTheOwnerGoesGoesToo)
   ZELAttachExtension<Phoenix>(_owner);
   _owner = NULL_var;
   EXPECT_EQ(goings, "hammer owner ");
+}
+
+TEST_F(ZELExtensionTest, InterfaceCountsAloneOnceItsExtensionIsGone)
+{
+  ZELAttachExtension<ZELExtension<Mirror>>(_owner);
+  _owner = NULL_var;
+  EXPECT_EQ(goings, "asked 0 times for its owner owner ");
+}
+
+TEST_F(ZELExtensionTest, ReferenceTakenWhileTheExtensionIsMadeHoldsTheOwner)
+{
+  struct Famous : ZELExtension<Washable>
+  {
+    explicit Famous(Washable_var& o_handle) { o_handle = this; }
+    int Wash() override { return 7; }
+  };
+  Washable_var handle;
+  ZELAttachExtension<Famous>(_owner, handle);
+  EXPECT_EQ(CountOf(_owner), 2);
+  _owner = NULL_var;
+  EXPECT_EQ(goings, "");
+  EXPECT_EQ(handle->Wash(), 7);
+  handle = NULL_var;
+  EXPECT_EQ(goings, "owner ");
 }
 
 TEST_F(ZELExtensionTest, ManyThreadsAskAndAttachAtOnce)

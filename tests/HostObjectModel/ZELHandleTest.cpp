@@ -175,6 +175,37 @@ TEST_F(ZELHandleTest, OfAnInterfaceIsNullWhenTheObjectDoesNotOfferIt)
   EXPECT_EQ(CountOfCup(), 2);
 }
 
+TEST_F(ZELHandleTest, OfAnInterfaceIsAssignedAndSetToNull)
+{
+  Plate plate, other;
+  Washable_var washable;
+  EXPECT_TRUE(washable == NULL_var);
+  washable = &plate;
+  EXPECT_EQ(CountOf(&plate), 2);
+  washable = Washable_var(ZELBaseUnknown_var(&other));
+  EXPECT_EQ(CountOf(&plate), 1);
+  EXPECT_EQ(CountOf(&other), 2);
+  washable = Washable_var(&_cup);
+  EXPECT_TRUE(washable == NULL_var);
+  washable = &plate;
+  washable = NULL_var;
+  EXPECT_EQ(CountOf(&plate), 1);
+}
+
+TEST_F(ZELHandleTest, OfAnInterfaceIsAnyObjectWithoutBeingAsked)
+{
+  Plate plate;
+  const ZELHandle<Plate> known(&plate);
+  const Washable_var washable = known;
+  const ZELBaseUnknown_var unknown = washable;
+  EXPECT_TRUE(washable == known);
+  EXPECT_TRUE(unknown == washable);
+  EXPECT_TRUE(Washable_var(&plate) == washable);
+  EXPECT_TRUE(Washable_var(unknown) == washable);
+  EXPECT_TRUE(unknown != &_cup);
+  EXPECT_EQ(CountOf(&plate), 4);
+}
+
 TEST_F(ZELHandleTest, InAnArrayGivesBackEveryReference)
 {
   {

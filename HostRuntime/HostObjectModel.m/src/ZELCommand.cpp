@@ -1,10 +1,12 @@
 #include "ZELCommand.h"
 
+#include <utility>
+
 ZELImplementClass(ZELCommand, ZELBaseUnknown, OPXHostRuntime);
 
 ZELCommand::ZELCommand(ZELCommand* i_pFather, const ZELString& i_name) : _name(i_name)
 {
-  if (!i_pFather)
+  if (!i_pFather || i_pFather->_isGoing)
     return;
   AddRef();
   Enter(i_pFather, &i_pFather->_children);
@@ -12,6 +14,7 @@ ZELCommand::ZELCommand(ZELCommand* i_pFather, const ZELString& i_name) : _name(i
 
 ZELCommand::~ZELCommand()
 {
+  _isGoing = true;
   Leave();
   OrphanChildren();
 }
@@ -36,7 +39,7 @@ ZELCommand* ZELCommand::FindChild(const ZELString& i_name) const
 
 int ZELCommand::SetFather(ZELCommand* i_pFather)
 {
-  if (i_pFather && i_pFather->StandsBelow(this))
+  if (_isGoing || (i_pFather && (i_pFather->_isGoing || i_pFather->StandsBelow(this))))
     return 0;
   const bool wasHeld = _place._pNext != &_place;
   Leave();
@@ -82,31 +85,35 @@ void ZELCommand::Leave()
   _place._pNext = _place._pPrevious = &_place;
 }
 
-// The children of a command that goes wait in one ring a thread, which the outermost destructor empties: the depth of the
-// tree is no depth of calls.
+// The children of a command that goes wait in the ring from which it was released itself, if it was: the depth of the tree is
+// no depth of calls.
 void ZELCommand::OrphanChildren()
 {
-  thread_local Link* pWaiting = nullptr;
-  Link ring;
-  const bool isOutermost = !pWaiting;
-  if (isOutermost)
-    pWaiting = &ring;
+  thread_local Orphans* pOrphans = nullptr;
+  if (pOrphans && pOrphans->_pReleased == this)
+    return MoveChildrenTo(*pOrphans);
+  Orphans orphans;
+  MoveChildrenTo(orphans);
+  Orphans* const pBefore = std::exchange(pOrphans, &orphans);
+  ReleaseAll(orphans);
+  pOrphans = pBefore;
+}
+
+void ZELCommand::MoveChildrenTo(Orphans& io_orphans)
+{
   while (ZELCommand* const pChild = GetFirstChild())
   {
     pChild->Leave();
-    pChild->Enter(nullptr, pWaiting);
+    pChild->Enter(nullptr, &io_orphans);
   }
-  if (!isOutermost)
-    return;
-  ReleaseAll(pWaiting);
-  pWaiting = nullptr;
 }
 
-void ZELCommand::ReleaseAll(Link* io_pRing)
+void ZELCommand::ReleaseAll(Orphans& io_orphans)
 {
-  while (ZELCommand* const pFirst = CommandAt(io_pRing->_pNext, io_pRing))
+  while (ZELCommand* const pFirst = CommandAt(io_orphans._pNext, &io_orphans))
   {
     pFirst->Leave();
+    io_orphans._pReleased = pFirst;
     pFirst->Release();
   }
 }

@@ -14,6 +14,8 @@ struct ZELEventSubscriber::Subscriptions
   {
     Subscription _id;
     Callback _callback;
+    // In how many notifications it runs.
+    int _running = 0;
     bool _isActive = true;
   };
   // Keeps the entries in place while they may be running; the last one to go clears away what was ended meanwhile.
@@ -40,9 +42,25 @@ struct ZELEventSubscriber::Subscriptions
   bool _hasEnded = false;
   bool _isOrphan = false;
 
+  void Call(Entry& io_entry, ZELEventSubscriber& io_source, ZELBaseUnknown* i_pArgument);
   void ClearAway();
+  void DestroyEnded();
   void Abandon();
 };
+
+void ZELEventSubscriber::Subscriptions::Call(Entry& io_entry, ZELEventSubscriber& io_source, ZELBaseUnknown* i_pArgument)
+{
+  struct Run
+  {
+    explicit Run(int& io_running) : _running(++io_running) {}
+    Run(const Run&) = delete;
+    Run& operator=(const Run&) = delete;
+    ~Run() { --_running; }
+    int& _running;
+  };
+  const Run run(io_entry._running);
+  io_entry._callback(io_source, i_pArgument);
+}
 
 void ZELEventSubscriber::Subscriptions::ClearAway()
 {
@@ -51,24 +69,31 @@ void ZELEventSubscriber::Subscriptions::ClearAway()
     delete this;
     return;
   }
-  if (!std::exchange(_hasEnded, false))
-    return;
+  if (std::exchange(_hasEnded, false))
+    DestroyEnded();
+}
+
+// Callbacks are destroyed outside of the list: what they captured may call back.
+void ZELEventSubscriber::Subscriptions::DestroyEnded()
+{
   std::list<Entry> ended;
   for (auto entry = _entries.begin(); entry != _entries.end();)
   {
     const auto next = std::next(entry);
-    if (!entry->_isActive)
+    if (!entry->_isActive && entry->_running == 0)
       ended.splice(ended.end(), _entries, entry);
     entry = next;
   }
 }
 
+// What does not run at this moment goes while the object is there still, which what it captured may call.
 void ZELEventSubscriber::Subscriptions::Abandon()
 {
+  const Running clearsAway(this);
   _isOrphan = true;
   for (Entry& entry : _entries)
     entry._isActive = false;
-  const Running clearsAway(this);
+  DestroyEnded();
 }
 
 ZELEventSubscriber::~ZELEventSubscriber()
@@ -83,6 +108,8 @@ ZELEventSubscriber::Subscription ZELEventSubscriber::Subscribe(Callback i_callba
     return 0;
   if (!_pSubscriptions)
     _pSubscriptions = new Subscriptions;
+  if (_pSubscriptions->_isOrphan)
+    return 0;
   _pSubscriptions->_entries.push_back({++_pSubscriptions->_last, std::move(i_callback)});
   return _pSubscriptions->_last;
 }
@@ -114,6 +141,6 @@ void ZELEventSubscriber::Notify(ZELBaseUnknown* i_pArgument)
     if (entry._id > last)
       return;
     if (entry._isActive)
-      entry._callback(*this, i_pArgument);
+      subscriptions.Call(entry, *this, i_pArgument);
   }
 }

@@ -26,6 +26,8 @@ void ZELExtensionTable::Attach(ZELBaseUnknown& io_owner, ZELBaseUnknown& io_exte
   Table& table = GetTable();
   const std::lock_guard<std::mutex> lock(table._lock);
   table._extensions[&io_owner].push_back(&io_extension);
+  for (int further = io_extension._count.Get(); further > 1; --further)
+    io_owner.AddRef();
   io_extension._isExtension = true;
   io_owner._hasExtensions.store(true, std::memory_order_release);
 }

@@ -51,6 +51,7 @@ int ZELSYPEventHandlersSupport::AddHandler(ZELSYPEvent* i_pEvent, ZELSYPEventHan
   if (!ZELSYP_CHECK_POINTER(pList))
     return 0;
   pList->AddHandler(i_pHandler, i_handleConsumedEvents, _pClass);
+  // Kept: a list that found no memory has reported it and stored nothing, and the answer is 1.
   return 1;
 }
 

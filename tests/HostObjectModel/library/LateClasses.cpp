@@ -15,6 +15,7 @@ class Usurper : public ZELBaseUnknown
 {
   ZELDeclareInterface;
 };
+using Usurper_var = ZELHandle<Usurper>;
 ZELImplementCreatableClass(LateCommand, ZELCommand, LateClasses);
 ZELImplementCreatableClass(Twin, ZELCommand, LateClasses);
 ZELImplementInterface(Usurper, ZELBaseUnknown, LateClasses, ZELClassId::FromText("24DD46D8-3B23-411E-8D07-05B93DD9E437"));

@@ -9,5 +9,6 @@ class Shape : public ZELBaseUnknown
 {
   ZELDeclareInterface;
 };
+using Shape_var = ZELHandle<Shape>;
 
 ZELImplementInterface(Shape, ZELBaseUnknown, Tests, IID_Shape);
