@@ -10,12 +10,31 @@
 #include <gmock/gmock.h>
 
 #include <memory>
+#include <utility>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace
 {
+// A handler that does something when it is asked whether it must be removed, which it must not.
+class BusyHandler : public LoggingHandler
+{
+public:
+  BusyHandler(Log& io_log, std::string i_name, std::function<void()> i_whenAsked)
+      : LoggingHandler(io_log, std::move(i_name)), _whenAsked(std::move(i_whenAsked))
+  {
+  }
+  int MustBeRemoved() override
+  {
+    _whenAsked();
+    return 0;
+  }
+
+private:
+  const std::function<void()> _whenAsked;
+};
+
 class ZELSYPClassEventHandlersSupportTest : public testing::Test, protected RouteWorld
 {
 protected:
@@ -216,4 +235,20 @@ TEST_F(ZELSYPClassEventHandlersSupportTest, OfWhatIsNullTheFirstIsReportedOnly)
   EXPECT_EQ(0, _classHandlers.AddClassHandler(Panel::MetaObject(), nullptr, nullptr, 0));
   EXPECT_EQ(0, _classHandlers.RemoveClassHandler(Panel::MetaObject(), nullptr, nullptr));
   EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer i_pEvent is NULL", "pointer i_pEvent is NULL"));
+}
+
+TEST_F(ZELSYPClassEventHandlersSupportTest, BaseClassThatGetsItsFirstHandlerAsADerivedOneIsPrunedRunsInTheSameDispatch)
+{
+  bool isAsked = false;
+  const auto busy = ZELHandle<BusyHandler>::Adopt(new BusyHandler(_log, "button",
+                                                                  [&]
+                                                                  {
+                                                                    if (!std::exchange(isAsked, true))
+                                                                      Listen(Panel::MetaObject(), "panel");
+                                                                  }));
+  _pEvent = _pHere;
+  _classHandlers.AddClassHandler(Button::MetaObject(), _pHere, busy.Get(), 0);
+  Listen(Widget::MetaObject(), "widget");
+  Raise(*_leaf);
+  EXPECT_THAT(_log, ElementsAre("button", "panel", "widget"));
 }
