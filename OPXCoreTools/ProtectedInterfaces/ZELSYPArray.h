@@ -31,7 +31,11 @@ public:
   // A copy of an element that throws leaves nothing behind.
   ZELSYPArray(const ZELSYPArray& i_other) : ZELSYPArray() { CopyFrom(i_other); }
   ZELSYPArray& operator=(const ZELSYPArray& i_other);
-  ~ZELSYPArray() { FreeBlock(); }
+  ~ZELSYPArray()
+  {
+    RemoveAll();
+    Blocks::GiveBack(_data);
+  }
 
   int GetLength() const noexcept { return _length; }
   int GetCapacity() const noexcept { return _capacity; }

@@ -63,8 +63,14 @@ private:
 
   // AddHandler with a registration for a class; null: for none.
   void AddHandler(ZELSYPEventHandler* i_pHandler, int i_handleConsumedEvents, const ZELMetaClass* i_pRegisteredClass);
-  // AutoRemove; what is taken out lives as long as io_removed, since the end of a handler may run code that destroys this list.
-  void AutoRemove(ZELSYPEventHandlerInfoList& io_removed);
+  // A snapshot of what AutoRemove leaves. What is taken out lives as long as io_removed, since the end of a handler may run
+  // code that destroys this list.
+  ZELSYPEventHandlerInfoList Prune(ZELSYPEventHandlerInfoList& io_removed);
+  // For a snapshot of i_list, most often all of which stays: 0 when it does, else how many, from the first on, are to be
+  // asked one by one, since one must be removed or changed the list.
+  int CountToAsk(const ZELSYPEventHandlerInfoList& i_list) const;
+  // AutoRemove of the first i_count.
+  void AutoRemove(int i_count, ZELSYPEventHandlerInfoList& io_removed);
   void RemoveInto(ZELSYPEventHandlerInfoList& io_removed, int i_index, ZELSYPEventHandlerInfo* i_pInfo);
   bool HasInfoAt(int i_index) const;
   bool UpdateDataForModification();

@@ -57,13 +57,11 @@ private:
   ZELSYPEventHandlerInfoList* FindOrAddList(ZELSYPEvent* i_pEvent);
   void StoreList(ZELSYPEvent* i_pEvent, const ZELSYPEventHandlerInfoList& i_list);
   static void ReleaseEvent(ZELSYPEvent& io_event);
-  // The stored list once it is pruned, or null. It stands while io_removed, which what is pruned lives as long as, does.
-  ZELSYPEventHandlerInfoList* FindPrunedList(ZELSYPEvent* i_pEvent, ZELSYPEventHandlerInfoList& io_removed)
+  // GetHandlersList; what is pruned lives as long as io_removed.
+  ZELSYPEventHandlerInfoList TakeList(ZELSYPEvent* i_pEvent, ZELSYPEventHandlerInfoList& io_removed)
   {
     ZELSYPEventHandlerInfoList* const pList = FindList(i_pEvent);
-    if (pList)
-      pList->AutoRemove(io_removed);
-    return pList;
+    return pList ? pList->Prune(io_removed) : ZELSYPEventHandlerInfoList();
   }
   // Most often the event is the one that was asked for last.
   ZELSYPEventHandlerInfoList* FindList(ZELSYPEvent* i_pEvent)

@@ -35,6 +35,7 @@ public:
 
   // Puts a snapshot of the list at the end.
   void AddList(const ZELSYPEventHandlerInfoList& i_list) { _lists.Append(i_list); }
+  void AddList(ZELSYPEventHandlerInfoList&& i_list) { _lists.Append(std::move(i_list)); }
   // Runs the handlers, list by list and in each in the order of registration; those of consumed arguments only that asked
   // for them, which is looked at before each one. No node ("_spNode") or no arguments ("i_pArgs"): nothing runs. A
   // registration that is null ("pInfo") or has no handler ("pHandler") ends this stop. What a handler throws goes through.

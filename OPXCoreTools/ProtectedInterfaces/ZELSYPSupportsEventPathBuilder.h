@@ -39,8 +39,9 @@ private:
   virtual ZELSYPClassEventHandlersSupport* GetClassSupportForNode(ZELBaseUnknown* i_pNode) = 0;
 
   static ZELBaseUnknown_var TakeNode(const ZELSYPEventArgs& i_args, ZELBaseUnknown& i_node);
-  static void AddList(Element& io_pElement, const ZELSYPEventArgs& i_args, ZELBaseUnknown& i_node,
-                      const ZELSYPEventHandlerInfoList* i_pList);
+  ZELSYPEventPathElt* BuildHeardElement(ZELSYPEventArgs& io_args, ZELBaseUnknown& i_node, ZELSYPEventHandlersSupport& io_support,
+                                        ZELSYPClassEventHandlersSupport& io_classSupport);
+  static void AddList(Element& io_pElement, const ZELSYPEventArgs& i_args, ZELBaseUnknown& i_node, ZELSYPEventHandlerInfoList i_list);
   static void AddClassLists(Element& io_pElement, ZELSYPEventArgs& io_args, ZELBaseUnknown& i_node,
                             ZELSYPClassEventHandlersSupport& io_classSupport, ZELSYPEventHandlerInfoList& io_removed);
 };

@@ -6,6 +6,14 @@
 
 #include <new>
 
+namespace
+{
+bool Stays(const ZELSYPEventHandlerInfo* i_pInfo)
+{
+  return i_pInfo && i_pInfo->GetHandler() && i_pInfo->GetHandler()->MustBeRemoved() == 0;
+}
+} // namespace
+
 ZELSYPEventHandlerInfo* ZELSYPEventHandlerInfoList::Get(int i_index) const
 {
   return HasInfoAt(i_index) ? _pSharedData->_handlers[i_index] : nullptr;
@@ -45,12 +53,30 @@ void ZELSYPEventHandlerInfoList::Remove(int i_index)
 void ZELSYPEventHandlerInfoList::AutoRemove()
 {
   ZELSYPEventHandlerInfoList removed;
-  AutoRemove(removed);
+  AutoRemove(GetSize(), removed);
 }
 
-void ZELSYPEventHandlerInfoList::AutoRemove(ZELSYPEventHandlerInfoList& io_removed)
+ZELSYPEventHandlerInfoList ZELSYPEventHandlerInfoList::Prune(ZELSYPEventHandlerInfoList& io_removed)
 {
-  for (int index = GetSize() - 1; index >= 0 && _pSharedData; --index)
+  ZELSYPEventHandlerInfoList asked(*this);
+  const int count = asked.CountToAsk(*this);
+  if (__builtin_expect(count == 0, true))
+    return asked;
+  AutoRemove(count, io_removed);
+  return *this;
+}
+
+int ZELSYPEventHandlerInfoList::CountToAsk(const ZELSYPEventHandlerInfoList& i_list) const
+{
+  for (ZELSYPEventHandlerInfo* const* pEach = end(); pEach != begin(); --pEach)
+    if (__builtin_expect(!Stays(pEach[-1]) || i_list._pSharedData != _pSharedData, false))
+      return static_cast<int>(pEach - begin());
+  return 0;
+}
+
+void ZELSYPEventHandlerInfoList::AutoRemove(int i_count, ZELSYPEventHandlerInfoList& io_removed)
+{
+  for (int index = i_count - 1; index >= 0 && _pSharedData; --index)
   {
     ZELSYPEventHandlerInfo* const pInfo = _pSharedData->_handlers[index];
     if (!ZELSYP_CHECK_POINTER(pInfo))
@@ -58,7 +84,7 @@ void ZELSYPEventHandlerInfoList::AutoRemove(ZELSYPEventHandlerInfoList& io_remov
     ZELSYPEventHandler* const pHandler = pInfo->GetHandler();
     if (!ZELSYP_CHECK_POINTER(pHandler))
       return;
-    if (__builtin_expect(pHandler->MustBeRemoved() != 0, false))
+    if (pHandler->MustBeRemoved() != 0)
       RemoveInto(io_removed, index, pInfo);
   }
 }

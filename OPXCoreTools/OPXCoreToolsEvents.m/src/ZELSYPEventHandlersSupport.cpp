@@ -77,8 +77,7 @@ int ZELSYPEventHandlersSupport::RemoveHandler(ZELSYPEvent* i_pEvent, ZELSYPEvent
 ZELSYPEventHandlerInfoList ZELSYPEventHandlersSupport::GetHandlersList(ZELSYPEvent* i_pEvent)
 {
   ZELSYPEventHandlerInfoList removed;
-  const ZELSYPEventHandlerInfoList* const pList = ZELSYP_CHECK_POINTER(i_pEvent) ? FindPrunedList(i_pEvent, removed) : nullptr;
-  return pList ? *pList : ZELSYPEventHandlerInfoList();
+  return ZELSYP_CHECK_POINTER(i_pEvent) ? TakeList(i_pEvent, removed) : ZELSYPEventHandlerInfoList();
 }
 
 int ZELSYPEventHandlersSupport::GetHandlersCount(ZELSYPEvent* i_pEvent) const

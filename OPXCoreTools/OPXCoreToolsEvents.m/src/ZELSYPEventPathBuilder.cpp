@@ -68,7 +68,7 @@ bool IsKnown(ZELSYPEvent::Propagation i_propagation)
 
 ZELSYPEventPathBuilder::~ZELSYPEventPathBuilder() = default;
 
-int ZELSYPEventPathBuilder::Dispatch(ZELBaseUnknown* i_pOrigin, ZELSYPEventArgs* i_pArgs)
+[[gnu::flatten]] int ZELSYPEventPathBuilder::Dispatch(ZELBaseUnknown* i_pOrigin, ZELSYPEventArgs* i_pArgs)
 {
   if (!ZELSYP_CHECK_POINTER(i_pOrigin) || !ZELSYP_CHECK_POINTER(i_pArgs) || !HasOrigin(i_pOrigin, i_pArgs))
     return 0;

@@ -10,7 +10,7 @@ namespace
 {
 bool MayRun(const ZELSYPEventHandlerInfo& i_info, const ZELSYPEventArgs& i_args)
 {
-  return i_info.GetHandleConsumedEvents() != 0 || !i_args.IsConsumed();
+  return !i_args.IsConsumed() || i_info.GetHandleConsumedEvents() != 0;
 }
 } // namespace
 

@@ -31,37 +31,40 @@ inline ZELBaseUnknown_var ZELSYPSupportsEventPathBuilder::TakeNode(const ZELSYPE
 
 // Inlined where it stands: it is most of what there is to do at a node that listens.
 [[gnu::always_inline]] inline void ZELSYPSupportsEventPathBuilder::AddList(Element& io_pElement, const ZELSYPEventArgs& i_args,
-                                                                           ZELBaseUnknown& i_node,
-                                                                           const ZELSYPEventHandlerInfoList* i_pList)
+                                                                           ZELBaseUnknown& i_node, ZELSYPEventHandlerInfoList i_list)
 {
-  if (!i_pList || i_pList->GetSize() == 0)
+  if (i_list.GetSize() == 0)
     return;
   if (!io_pElement)
     io_pElement = std::make_unique<ZELSYPEventPathElt>(TakeNode(i_args, i_node));
-  io_pElement->AddList(*i_pList);
+  io_pElement->AddList(std::move(i_list));
 }
 
-// What is pruned lives until the lists were taken: the end of a handler may change the stores, or destroy them.
 ZELSYPEventPathElt* ZELSYPSupportsEventPathBuilder::BuildElement(ZELSYPEventArgs* i_pArgs, ZELBaseUnknown* i_pNode)
 {
   if (!ZELSYP_CHECK_POINTER(i_pArgs) || !ZELSYP_CHECK_POINTER(i_pNode))
     return nullptr;
-  ZELSYPEvent* const pEvent = i_pArgs->GetEvent();
+  const ZELSYPEvent* const pEvent = i_pArgs->GetEvent();
   if (!ZELSYP_CHECK_POINTER(pEvent))
     return nullptr;
   ZELSYPEventHandlersSupport* const pSupport = GetSupportForNode(i_pNode);
   ZELSYPClassEventHandlersSupport* const pClassSupport = GetClassSupportForNode(i_pNode);
   if (!ZELSYP_CHECK_POINTER(pSupport) || !ZELSYP_CHECK_POINTER(pClassSupport))
     return nullptr;
+  return pEvent->_storeCount == 0 ? NO_ELEMENT() : BuildHeardElement(*i_pArgs, *i_pNode, *pSupport, *pClassSupport);
+}
+
+// What is pruned lives until the lists were taken: the end of a handler may change the stores, or destroy them.
+inline ZELSYPEventPathElt* ZELSYPSupportsEventPathBuilder::BuildHeardElement(ZELSYPEventArgs& io_args, ZELBaseUnknown& i_node,
+                                                                             ZELSYPEventHandlersSupport& io_support,
+                                                                             ZELSYPClassEventHandlersSupport& io_classSupport)
+{
   ZELSYPEventHandlerInfoList removed;
   Element pElement;
-  if (pEvent->_storeCount != 0)
-  {
-    if (pClassSupport->_supports.GetSize() != 0 && pClassSupport != NO_CLASS_SUPPORT())
-      AddClassLists(pElement, *i_pArgs, *i_pNode, *pClassSupport, removed);
-    if (pSupport != NO_SUPPORT())
-      AddList(pElement, *i_pArgs, *i_pNode, pSupport->FindPrunedList(pEvent, removed));
-  }
+  if (io_classSupport._supports.GetSize() != 0 && &io_classSupport != NO_CLASS_SUPPORT())
+    AddClassLists(pElement, io_args, i_node, io_classSupport, removed);
+  if (&io_support != NO_SUPPORT())
+    AddList(pElement, io_args, i_node, io_support.TakeList(io_args.GetEvent(), removed));
   return pElement ? pElement.release() : NO_ELEMENT();
 }
 
@@ -70,5 +73,5 @@ void ZELSYPSupportsEventPathBuilder::AddClassLists(Element& io_pElement, ZELSYPE
 {
   ZELMetaClass* const pClass = i_node.GetMetaObject();
   for (int index = 0; ZELSYPEventHandlersSupport* const pOfClass = io_classSupport.GetInChain(pClass, index); ++index)
-    AddList(io_pElement, io_args, i_node, pOfClass->FindPrunedList(io_args.GetEvent(), io_removed));
+    AddList(io_pElement, io_args, i_node, pOfClass->TakeList(io_args.GetEvent(), io_removed));
 }
