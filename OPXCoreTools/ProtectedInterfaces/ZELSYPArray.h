@@ -208,7 +208,8 @@ template <class T, class Blocks>
 void ZELSYPArray<T, Blocks>::RemoveAll()
 {
   // What stands here is a T and nothing that derives from it: the destructor needs no look-up.
-  for (T* pElement = begin(); pElement != end(); ++pElement)
+  T* const pEnd = end();
+  for (T* pElement = begin(); pElement != pEnd; ++pElement)
     pElement->T::~T();
   _length = 0;
 }

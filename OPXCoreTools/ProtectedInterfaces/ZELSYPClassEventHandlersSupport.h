@@ -39,16 +39,21 @@ private:
   friend class ZELSYPSupportsEventPathBuilder;
   typedef ZELSYPArray<ZELSYPEventHandlersSupport*> Chain;
 
-  // The stores of a class and its base classes, most derived class first: the one at i_index, or null past the last.
-  ZELSYPEventHandlersSupport* GetInChain(ZELMetaClass* i_pClass, int i_index)
+  // The stores of a class and its base classes, most derived class first: the one behind i_pBefore, which is null for the
+  // first, or null behind the last. By store, not by position: a derived class may get its store in mid-walk.
+  ZELSYPEventHandlersSupport* GetNextInChain(ZELMetaClass* i_pClass, const ZELSYPEventHandlersSupport* i_pBefore)
   {
-    if (i_pClass != _pLastClass && !FindChain(i_pClass))
-      return FindWithoutChain(i_pClass, i_index);
-    return _pLastChain && i_index < _pLastChain->GetLength() ? _pLastChain->begin()[i_index] : nullptr;
+    if ((i_pClass != _pLastClass || !_pLastChain) && !FindChain(i_pClass))
+      return GetNextWithoutChain(i_pClass, i_pBefore);
+    ZELSYPEventHandlersSupport* const* pEach = _pLastChain->begin();
+    while (i_pBefore && pEach != _pLastChain->end() && *pEach++ != i_pBefore)
+    {
+    }
+    return pEach != _pLastChain->end() ? *pEach : nullptr;
   }
   bool FindChain(ZELMetaClass* i_pClass);
   const Chain* MakeChain(ZELMetaClass* i_pClass);
-  ZELSYPEventHandlersSupport* FindWithoutChain(ZELMetaClass* i_pClass, int i_index);
+  ZELSYPEventHandlersSupport* GetNextWithoutChain(ZELMetaClass* i_pClass, const ZELSYPEventHandlersSupport* i_pBefore);
   void ForgetChains();
   ZELSYPEventHandlersSupport* FindOrAddSupport(ZELMetaClass* i_pClass);
   void Clear();

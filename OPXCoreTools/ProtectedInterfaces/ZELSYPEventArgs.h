@@ -11,6 +11,8 @@
 
 #include <cstdint>
 
+class ZELSYPRouteNode;
+
 class OPXCORETOOLS_EXPORT ZELSYPEventArgs : public ZELBaseUnknown
 {
   ZELDeclareClass;
@@ -53,8 +55,8 @@ private:
   ZELSYPEvent* const _pEvent;
   ZELBaseUnknown* _pOrigin = nullptr;
   std::int32_t _consumed = 0;
-  // While a route is built: the node that is looked at as the route holds it, so that its stop can take it over.
-  ZELBaseUnknown_var* _pRouteNode = nullptr;
+  // While a route is built.
+  ZELSYPRouteNode* _pRouteNode = nullptr;
 };
 
 #endif

@@ -12,6 +12,7 @@
 #include "ZELSYPCheck.h"
 #include "ZELSYPEventHandlerInfoList.h"
 #include "ZELSYPRecycledBlocks.h"
+#include "ZELSYPRouteNode.h"
 
 #include <cstddef>
 #include <new>
@@ -29,9 +30,19 @@ public:
     _lists.UseRoom(_room);
     CheckNode();
   }
+  // Borrows the reference on the node.
+  explicit ZELSYPEventPathElt(ZELSYPRouteNode& io_lender)
+  {
+    _lists.UseRoom(_room);
+    _spNode = io_lender.Lend(_pLender);
+  }
   ZELSYPEventPathElt(const ZELSYPEventPathElt&) = delete;
   ZELSYPEventPathElt& operator=(const ZELSYPEventPathElt&) = delete;
-  virtual ~ZELSYPEventPathElt() = default;
+  virtual ~ZELSYPEventPathElt()
+  {
+    if (__builtin_expect(_pLender != nullptr, false))
+      _pLender->TakeBack(_spNode);
+  }
 
   // Puts a snapshot of the list at the end.
   void AddList(const ZELSYPEventHandlerInfoList& i_list) { _lists.Append(i_list); }
@@ -64,6 +75,7 @@ private:
   // For the list of the node's class and its own.
   ZELSYPRecycledBlocks::Room<ZELSYPEventHandlerInfoList, 2> _room;
   ZELSYPArray<ZELSYPEventHandlerInfoList, ZELSYPRecycledBlocks> _lists;
+  ZELSYPRouteNode* _pLender = nullptr;
 };
 
 #endif

@@ -69,6 +69,7 @@ private:
   static void* TakeOf(std::size_t i_kind, std::size_t i_bytes) noexcept;
   static void* TakeFromHeap(std::size_t i_kind, std::size_t i_bytes) noexcept;
   static void Keep(Head* i_pBlock) noexcept;
+  static void KeepFirst(Head* i_pBlock) noexcept;
 };
 
 template <class T, int i_count>

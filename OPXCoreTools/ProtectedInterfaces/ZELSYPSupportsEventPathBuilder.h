@@ -38,7 +38,7 @@ private:
   virtual ZELSYPEventHandlersSupport* GetSupportForNode(ZELBaseUnknown* i_pNode) = 0;
   virtual ZELSYPClassEventHandlersSupport* GetClassSupportForNode(ZELBaseUnknown* i_pNode) = 0;
 
-  static ZELBaseUnknown_var TakeNode(const ZELSYPEventArgs& i_args, ZELBaseUnknown& i_node);
+  static Element NewElement(const ZELSYPEventArgs& i_args, ZELBaseUnknown& i_node);
   ZELSYPEventPathElt* BuildHeardElement(ZELSYPEventArgs& io_args, ZELBaseUnknown& i_node, ZELSYPEventHandlersSupport& io_support,
                                         ZELSYPClassEventHandlersSupport& io_classSupport);
   static void AddList(Element& io_pElement, const ZELSYPEventArgs& i_args, ZELBaseUnknown& i_node, ZELSYPEventHandlerInfoList i_list);

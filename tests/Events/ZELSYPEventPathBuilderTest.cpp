@@ -531,7 +531,7 @@ TEST_F(ZELSYPEventPathBuilderTest, RouteOfArgumentsWithoutOriginIsRefused)
   ZELSYPEventArgs args(_pEvent);
   EXPECT_EQ(nullptr, ScriptedBuilder().BuildPath(nullptr));
   EXPECT_EQ(nullptr, ScriptedBuilder().BuildPath(&args));
-  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer i_pArgs is NULL", "pointer i_pArgs->GetOrigin() is NULL"));
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer i_pArgs is NULL", "boolean i_pArgs->GetOrigin() is FALSE"));
   EXPECT_EQ("Can't dispatch, Origin has not been set on the event arguments", _failures.GetFailures()[1].details);
 }
 

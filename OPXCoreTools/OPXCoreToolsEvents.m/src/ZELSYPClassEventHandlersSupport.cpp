@@ -86,13 +86,17 @@ const ZELSYPClassEventHandlersSupport::Chain* ZELSYPClassEventHandlersSupport::M
   return pChain;
 }
 
-ZELSYPEventHandlersSupport* ZELSYPClassEventHandlersSupport::FindWithoutChain(ZELMetaClass* i_pClass, int i_index)
+ZELSYPEventHandlersSupport* ZELSYPClassEventHandlersSupport::GetNextWithoutChain(ZELMetaClass* i_pClass,
+                                                                                 const ZELSYPEventHandlersSupport* i_pBefore)
 {
-  int index = 0;
+  bool isBehind = !i_pBefore;
   for (ZELMetaClass* pClass = i_pClass; pClass; pClass = pClass->GetBaseClass())
     if (ZELSYPEventHandlersSupport* const pSupport = GetClassHandlersSupport(pClass))
-      if (index++ == i_index)
+    {
+      if (isBehind)
         return pSupport;
+      isBehind = pSupport == i_pBefore;
+    }
   return nullptr;
 }
 

@@ -47,14 +47,14 @@ bool HasExpectedClass(const ZELSYPEventArgs& i_args)
 class ShownNode
 {
 public:
-  explicit ShownNode(ZELBaseUnknown_var*& io_pShown) : _pShown(io_pShown), _pBefore(io_pShown) {}
+  explicit ShownNode(ZELSYPRouteNode*& io_pShown) : _pShown(io_pShown), _pBefore(io_pShown) {}
   ~ShownNode() { _pShown = _pBefore; }
   ShownNode(const ShownNode&) = delete;
   ShownNode& operator=(const ShownNode&) = delete;
 
 private:
-  ZELBaseUnknown_var*& _pShown;
-  ZELBaseUnknown_var* const _pBefore;
+  ZELSYPRouteNode*& _pShown;
+  ZELSYPRouteNode* const _pBefore;
 };
 
 bool IsKnown(ZELSYPEvent::Propagation i_propagation)
@@ -88,7 +88,7 @@ ZELSYPEventPath* ZELSYPEventPathBuilder::BuildPath(ZELSYPEventArgs* i_pArgs)
 inline bool ZELSYPEventPathBuilder::FillPath(ZELSYPEventPath& io_path, ZELSYPEventArgs* i_pArgs)
 {
   if (!ZELSYP_CHECK_POINTER(i_pArgs) ||
-      !ZELSYP_CHECK_POINTER_DETAILS(i_pArgs->GetOrigin(), "Can't dispatch, Origin has not been set on the event arguments") ||
+      !ZELSYP_CHECK_TRUE_DETAILS(i_pArgs->GetOrigin(), "Can't dispatch, Origin has not been set on the event arguments") ||
       !HasExpectedClass(*i_pArgs))
     return false;
   return AddStops(io_path, i_pArgs);
@@ -158,7 +158,8 @@ bool ZELSYPEventPathBuilder::BuildElements(ZELSYPEventPath& io_path, ZELSYPEvent
   {
     if (!ZELSYP_CHECK_HANDLER(spNode))
       return false;
-    io_args._pRouteNode = &spNode;
+    ZELSYPRouteNode lender(spNode);
+    io_args._pRouteNode = &lender;
     ZELSYPEventPathElt* const pElt = BuildElement(&io_args, spNode.Get());
     if (!ZELSYP_CHECK_POINTER_DETAILS(pElt, "Implementation of BuildElement returned NULL"))
       return false;

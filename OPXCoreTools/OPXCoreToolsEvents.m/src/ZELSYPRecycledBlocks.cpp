@@ -90,14 +90,23 @@ void* ZELSYPRecycledBlocks::Extend(void* io_block, std::size_t i_used, std::size
 
 void ZELSYPRecycledBlocks::Keep(Head* i_pBlock) noexcept
 {
+  Kept* const pKept = Kept::t_pKept;
+  if (__builtin_expect(!pKept, false))
+    return KeepFirst(i_pBlock);
   const std::size_t kind = i_pBlock->_kind;
-  Kept* const pKept = Kept::t_pKept ? Kept::t_pKept : Kept::New();
-  if (__builtin_expect(kind == NotKept || !pKept, false))
+  Head* const pNext = pKept->_lists[kind];
+  const std::size_t keptBytes = (pNext ? pNext->_keptBytes : 0) + (std::size_t{1} << SmallestBits << kind);
+  if (__builtin_expect(keptBytes > MostKeptBytes || kind == NotKept, false))
     return ::operator delete(i_pBlock);
-  Head*& pList = pKept->_lists[kind];
-  i_pBlock->_keptBytes = (pList ? pList->_keptBytes : 0) + Kept::BytesOf(kind, 0);
-  if (__builtin_expect(i_pBlock->_keptBytes > MostKeptBytes, false))
-    return ::operator delete(i_pBlock);
-  i_pBlock->_pNext = pList;
-  pList = i_pBlock;
+  i_pBlock->_keptBytes = keptBytes;
+  i_pBlock->_pNext = pNext;
+  pKept->_lists[kind] = i_pBlock;
+}
+
+[[gnu::noinline, gnu::cold]] void ZELSYPRecycledBlocks::KeepFirst(Head* i_pBlock) noexcept
+{
+  if (Kept::New())
+    Keep(i_pBlock);
+  else
+    ::operator delete(i_pBlock);
 }

@@ -22,11 +22,12 @@ ZELSYPClassEventHandlersSupport* ZELSYPSupportsEventPathBuilder::NO_CLASS_SUPPOR
   return s_pNoClassSupport;
 }
 
-// What the route holds becomes the stop's. Whoever asks outside a route gets a reference more.
-inline ZELBaseUnknown_var ZELSYPSupportsEventPathBuilder::TakeNode(const ZELSYPEventArgs& i_args, ZELBaseUnknown& i_node)
+// What the route holds becomes the stop's. Whoever asks outside a route, or twice, gets a reference more.
+inline ZELSYPSupportsEventPathBuilder::Element ZELSYPSupportsEventPathBuilder::NewElement(const ZELSYPEventArgs& i_args,
+                                                                                          ZELBaseUnknown& i_node)
 {
-  ZELBaseUnknown_var* const pRouteNode = i_args._pRouteNode;
-  return pRouteNode && pRouteNode->Get() == &i_node ? std::move(*pRouteNode) : ZELBaseUnknown_var(&i_node);
+  ZELSYPRouteNode* const pLender = i_args._pRouteNode;
+  return pLender && pLender->Has(i_node) ? std::make_unique<ZELSYPEventPathElt>(*pLender) : std::make_unique<ZELSYPEventPathElt>(&i_node);
 }
 
 // Inlined where it stands: it is most of what there is to do at a node that listens.
@@ -36,7 +37,7 @@ inline ZELBaseUnknown_var ZELSYPSupportsEventPathBuilder::TakeNode(const ZELSYPE
   if (i_list.GetSize() == 0)
     return;
   if (!io_pElement)
-    io_pElement = std::make_unique<ZELSYPEventPathElt>(TakeNode(i_args, i_node));
+    io_pElement = NewElement(i_args, i_node);
   io_pElement->AddList(std::move(i_list));
 }
 
@@ -72,6 +73,7 @@ void ZELSYPSupportsEventPathBuilder::AddClassLists(Element& io_pElement, ZELSYPE
                                                    ZELSYPClassEventHandlersSupport& io_classSupport, ZELSYPEventHandlerInfoList& io_removed)
 {
   ZELMetaClass* const pClass = i_node.GetMetaObject();
-  for (int index = 0; ZELSYPEventHandlersSupport* const pOfClass = io_classSupport.GetInChain(pClass, index); ++index)
+  ZELSYPEventHandlersSupport* pOfClass = nullptr;
+  while ((pOfClass = io_classSupport.GetNextInChain(pClass, pOfClass)))
     AddList(io_pElement, io_args, i_node, pOfClass->TakeList(io_args.GetEvent(), io_removed));
 }
