@@ -29,12 +29,11 @@ protected:
   // Puts the registration at the end, with a reference more on it; without memory nothing changes, and false.
   bool Append(ZELSYPEventHandlerInfo* i_pInfo);
 
+  ZELSYPArray<ZELSYPEventHandlerInfo*, ZELSYPRecycledBlocks> _handlers;
+
 private:
   // For a list of one, which most are.
   ZELSYPRecycledBlocks::Room<ZELSYPEventHandlerInfo*, 1> _room;
-
-protected:
-  ZELSYPArray<ZELSYPEventHandlerInfo*, ZELSYPRecycledBlocks> _handlers;
 };
 
 #endif

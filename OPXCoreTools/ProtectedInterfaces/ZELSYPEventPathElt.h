@@ -31,10 +31,10 @@ public:
     CheckNode();
   }
   // Borrows the reference on the node.
-  explicit ZELSYPEventPathElt(ZELSYPRouteNode& io_lender)
+  explicit ZELSYPEventPathElt(ZELSYPRouteNode& io_lender) : _spNode(io_lender.Lend())
   {
     _lists.UseRoom(_room);
-    _spNode = io_lender.Lend(_pLender);
+    io_lender.ShowItselfIn(_pLender);
   }
   ZELSYPEventPathElt(const ZELSYPEventPathElt&) = delete;
   ZELSYPEventPathElt& operator=(const ZELSYPEventPathElt&) = delete;
@@ -72,10 +72,10 @@ private:
   [[gnu::cold]] void RunObserved(int i_list, int i_index, ZELSYPEventHandlerInfo& i_info, ZELSYPEventArgs& io_args) const;
 
   ZELBaseUnknown_var _spNode;
-  // For the list of the node's class and its own.
-  ZELSYPRecycledBlocks::Room<ZELSYPEventHandlerInfoList, 2> _room;
   ZELSYPArray<ZELSYPEventHandlerInfoList, ZELSYPRecycledBlocks> _lists;
   ZELSYPRouteNode* _pLender = nullptr;
+  // For the list of the node's class and its own.
+  ZELSYPRecycledBlocks::Room<ZELSYPEventHandlerInfoList, 2> _room;
 };
 
 #endif

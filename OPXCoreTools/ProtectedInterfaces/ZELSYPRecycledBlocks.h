@@ -43,8 +43,6 @@ private:
   // Stands before the memory that is handed out.
   struct alignas(__STDCPP_DEFAULT_NEW_ALIGNMENT__) Head
   {
-    // While kept: the bytes of its list from here on.
-    std::size_t _keptBytes;
     // While handed out: which list takes the block back. While kept: the next one of its list.
     union
     {

@@ -24,12 +24,12 @@ public:
 
   // Whether there is a reference on this very node to lend.
   bool Has(const ZELBaseUnknown& i_node) const noexcept { return _spNode.Get() == &i_node; }
-  // o_pLender is this until the reference is given back or the lender is no more.
-  ZELBaseUnknown_var Lend(ZELSYPRouteNode*& o_pLender) noexcept
+  ZELBaseUnknown_var Lend() noexcept { return std::move(_spNode); }
+  // Where the borrower finds the lender: null again when the lender is no more.
+  void ShowItselfIn(ZELSYPRouteNode*& o_pLender) noexcept
   {
     o_pLender = this;
     _ppLender = &o_pLender;
-    return std::move(_spNode);
   }
   void TakeBack(ZELBaseUnknown_var& io_spNode) noexcept
   {

@@ -68,9 +68,11 @@ ZELSYPEventHandlerInfoList ZELSYPEventHandlerInfoList::Prune(ZELSYPEventHandlerI
 
 int ZELSYPEventHandlerInfoList::CountToAsk(const ZELSYPEventHandlerInfoList& i_list) const
 {
-  for (ZELSYPEventHandlerInfo* const* pEach = end(); pEach != begin(); --pEach)
-    if (__builtin_expect(!Stays(pEach[-1]) || i_list._pSharedData != _pSharedData, false))
-      return static_cast<int>(pEach - begin());
+  const ZELSYPEventHandlerInfoListData* const pAsked = _pSharedData;
+  ZELSYPEventHandlerInfo* const* const pBegin = begin();
+  for (ZELSYPEventHandlerInfo* const* pEach = end(); pEach != pBegin; --pEach)
+    if (__builtin_expect(!Stays(pEach[-1]) || i_list._pSharedData != pAsked, false))
+      return static_cast<int>(pEach - pBegin);
   return 0;
 }
 

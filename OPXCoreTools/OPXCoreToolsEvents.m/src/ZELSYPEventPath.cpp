@@ -2,11 +2,15 @@
 
 #include "ZELSYPCheck.h"
 
+// From the last to the first: of a long route the last stops are those still at hand.
 ZELSYPEventPath::~ZELSYPEventPath()
 {
-  for (ZELSYPEventPathElt* const pElt : _elements)
+  for (ZELSYPEventPathElt* const* pEach = _elements.end(); pEach != _elements.begin(); --pEach)
+  {
+    const ZELSYPEventPathElt* const pElt = pEach[-1];
     if (ZELSYP_CHECK_POINTER(pElt))
       delete pElt;
+  }
 }
 
 // The length is read again each time: a handler may add a stop.

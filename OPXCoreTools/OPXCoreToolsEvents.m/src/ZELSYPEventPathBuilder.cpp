@@ -73,10 +73,10 @@ ZELSYPEventPathBuilder::~ZELSYPEventPathBuilder() = default;
   if (!ZELSYP_CHECK_POINTER(i_pOrigin) || !ZELSYP_CHECK_POINTER(i_pArgs) || !HasOrigin(i_pOrigin, i_pArgs))
     return 0;
   ZELSYPEventPath path;
-  if (!ZELSYP_CHECK_REPORT(FillPath(path, i_pArgs), Check_Pointer_Failed__, "pPath", __LINE__, nullptr))
-    return 0;
-  path.Dispatch(i_pArgs);
-  return 1;
+  const bool isFilled = FillPath(path, i_pArgs);
+  if (isFilled)
+    path.Dispatch(i_pArgs);
+  return ZELSYP_CHECK_REPORT(isFilled, Check_Pointer_Failed__, "pPath", __LINE__, nullptr);
 }
 
 ZELSYPEventPath* ZELSYPEventPathBuilder::BuildPath(ZELSYPEventArgs* i_pArgs)

@@ -8,8 +8,16 @@
 // The blocks of one thread.
 struct ZELSYPRecycledBlocks::Kept
 {
-  // The last one is that of the blocks that are not kept: empty for ever.
+  Kept() noexcept
+  {
+    for (std::size_t kind = 0; kind < KindCount; ++kind)
+      _room[kind] = static_cast<std::int32_t>(MostKeptBytes / BytesOf(kind, 0));
+  }
+
+  // The last one is that of the blocks that are not kept: empty for ever, without room.
   Head* _lists[KindCount + 1] = {};
+  // How many blocks more each list takes.
+  std::int32_t _room[KindCount + 1] = {};
 
   // Null before the thread gave its first block back, and once it has ended.
   [[gnu::tls_model("initial-exec")]] static thread_local Kept* t_pKept;
@@ -64,6 +72,7 @@ void* ZELSYPRecycledBlocks::TakeOf(std::size_t i_kind, std::size_t i_bytes) noex
   if (!pBlock)
     return TakeFromHeap(i_kind, i_bytes);
   pKept->_lists[i_kind] = pBlock->_pNext;
+  ++pKept->_room[i_kind];
   pBlock->_kind = i_kind;
   return pBlock + 1;
 }
@@ -94,12 +103,10 @@ void ZELSYPRecycledBlocks::Keep(Head* i_pBlock) noexcept
   if (__builtin_expect(!pKept, false))
     return KeepFirst(i_pBlock);
   const std::size_t kind = i_pBlock->_kind;
-  Head* const pNext = pKept->_lists[kind];
-  const std::size_t keptBytes = (pNext ? pNext->_keptBytes : 0) + (std::size_t{1} << SmallestBits << kind);
-  if (__builtin_expect(keptBytes > MostKeptBytes || kind == NotKept, false))
+  if (__builtin_expect(pKept->_room[kind] == 0, false))
     return ::operator delete(i_pBlock);
-  i_pBlock->_keptBytes = keptBytes;
-  i_pBlock->_pNext = pNext;
+  --pKept->_room[kind];
+  i_pBlock->_pNext = pKept->_lists[kind];
   pKept->_lists[kind] = i_pBlock;
 }
 
