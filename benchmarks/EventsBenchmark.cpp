@@ -17,14 +17,16 @@
 // sum; a case whose sum is wrong fails. Peers without routes walk from parent to parent by plain pointers. sigc++ counts
 // nothing and looks nothing up, and asks nobody whether it is still there: what a route holds and finds is not in its time.
 //
-// What made the project's routes fast, by instructions counted (a node with one handler went from 667 to 397): stops,
-// their lists and the route itself stand on the stack or in memory kept from the last dispatch; nothing is looked up while
-// nobody anywhere listens to the event; a stop takes over the reference that the route holds on its node (beside a second
-// thread a pair of locked instructions a node); a list is walked by pointers, since a snapshot cannot change; the library
+// What made the project's routes fast, by instructions counted (of 100 nodes with one handler each, a node went from 667 to
+// 363; a dispatch that nobody hears, from 392 to 253): stops, their lists and the route itself stand on the stack or in
+// memory kept from the last dispatch; nothing is looked up while nobody anywhere listens to the event; a stop borrows the
+// reference that the route holds on its node (beside a second thread a pair of locked instructions a node); a list is asked
+// and walked by pointers over the very snapshot that its stop keeps; the steps of a dispatch are inlined into one function,
+// which has one way out, so that the compiler does not take the end of the route for the path of an error; the library
 // calls its own functions directly.
 //
-// Tried and dropped: walking a snapshot of the list to ask who must be removed. It won 5 instructions a handler, and hid a
-// list that a handler empties while it is asked.
+// Tried and dropped: walking a snapshot to ask who must be removed without comparing it with the list after each answer. It
+// hid a list that a handler empties while it is asked.
 //
 // What is left beside a second thread with nobody listening is one pair of locked instructions a node, since a route holds
 // its nodes while it is built.

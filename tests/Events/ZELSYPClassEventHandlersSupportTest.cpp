@@ -252,3 +252,22 @@ TEST_F(ZELSYPClassEventHandlersSupportTest, BaseClassThatGetsItsFirstHandlerAsAD
   Raise(*_leaf);
   EXPECT_THAT(_log, ElementsAre("button", "panel", "widget"));
 }
+
+TEST_F(ZELSYPClassEventHandlersSupportTest, DerivedClassThatGetsItsFirstHandlerAsABaseIsPrunedRunsEachHandlerOnce)
+{
+  bool isAsked = false;
+  const auto busy = ZELHandle<BusyHandler>::Adopt(new BusyHandler(_log, "widget",
+                                                                  [&]
+                                                                  {
+                                                                    if (!std::exchange(isAsked, true))
+                                                                      Listen(Button::MetaObject(), "button");
+                                                                  }));
+  _pEvent = _pHere;
+  _classHandlers.AddClassHandler(Widget::MetaObject(), _pHere, busy.Get(), 0);
+  Listen(ZELBaseUnknown::MetaObject(), "any object");
+  Raise(*_leaf);
+  EXPECT_THAT(_log, ElementsAre("widget", "any object"));
+  _log.clear();
+  Raise(*_leaf);
+  EXPECT_THAT(_log, ElementsAre("button", "widget", "any object"));
+}

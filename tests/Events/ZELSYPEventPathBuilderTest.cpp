@@ -88,6 +88,44 @@ private:
   const std::function<void(ZELBaseUnknown*)> _watch;
 };
 
+Widget* ParentOf(ZELBaseUnknown* i_pNode)
+{
+  return static_cast<Widget*>(i_pNode)->_pParent;
+}
+
+// Finds no stop good enough.
+class PickyBuilder : public StoreWatchingBuilder
+{
+public:
+  using StoreWatchingBuilder::StoreWatchingBuilder;
+
+private:
+  ZELSYPEventPathElt* BuildElement(ZELSYPEventArgs* i_pArgs, ZELBaseUnknown* i_pNode) override
+  {
+    ZELSYPEventPathElt* const pElt = WidgetBuilder::BuildElement(i_pArgs, i_pNode);
+    if (pElt != NO_ELEMENT())
+      delete pElt;
+    return NO_ELEMENT();
+  }
+};
+
+// Keeps two stops of each node for itself, and throws at the root.
+class HoardingBuilder : public WidgetBuilder
+{
+public:
+  std::vector<std::unique_ptr<ZELSYPEventPathElt>> _hoard;
+
+private:
+  ZELSYPEventPathElt* BuildElement(ZELSYPEventArgs* i_pArgs, ZELBaseUnknown* i_pNode) override
+  {
+    _hoard.emplace_back(WidgetBuilder::BuildElement(i_pArgs, i_pNode));
+    _hoard.emplace_back(WidgetBuilder::BuildElement(i_pArgs, i_pNode));
+    if (!ParentOf(i_pNode))
+      throw std::runtime_error("enough");
+    return NO_ELEMENT();
+  }
+};
+
 // Arguments that do not say what class they are of.
 class ClasslessArgs : public ZELSYPEventArgs
 {
@@ -118,11 +156,6 @@ struct GivenUpChain
   ZELHandle<Widget> _parent = ZELHandle<Widget>::Adopt(new Widget(_root));
   const ZELHandle<Widget> _leaf = ZELHandle<Widget>::Adopt(new Widget(_parent));
 };
-
-Widget* ParentOf(ZELBaseUnknown* i_pNode)
-{
-  return static_cast<Widget*>(i_pNode)->_pParent;
-}
 
 std::vector<const ZELBaseUnknown*> NodesOf(const ZELSYPEventPath& i_path)
 {
@@ -774,4 +807,40 @@ TEST_F(ZELSYPEventPathBuilderTest, NodesThatAreGivenUpWhenTheirStoresAreAskedFor
     EXPECT_EQ(1, chain.CountLiving());
   }
   EXPECT_THAT(_log, ElementsAre("parent"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, NodesWhoseStopsAreThrownAwayLiveUntilTheRouteIsBuilt)
+{
+  GivenUpChain chain;
+  for (Widget* const pWidget : {chain._leaf.Get(), chain._parent.Get(), chain._root.Get()})
+    Listen(*pWidget, "never");
+  std::vector<int> living;
+  PickyBuilder builder(
+      [&](ZELBaseUnknown* i_pNode)
+      {
+        chain.GiveUp(i_pNode);
+        living.push_back(chain.CountLiving());
+      });
+  ZELSYPEventArgs args(_pUp);
+  EXPECT_EQ(1, builder.Dispatch(chain._leaf, &args));
+  EXPECT_THAT(living, ElementsAre(3, 3, 3));
+  EXPECT_EQ(1, chain.CountLiving());
+  EXPECT_THAT(_log, IsEmpty());
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, StopsThatAreKeptHoldTheirNodesWhateverBecomesOfTheRoute)
+{
+  GivenUpChain chain;
+  for (Widget* const pWidget : {chain._leaf.Get(), chain._parent.Get(), chain._root.Get()})
+    Listen(*pWidget, "never");
+  HoardingBuilder builder;
+  ZELSYPEventArgs args(_pUp);
+  EXPECT_THROW(builder.Dispatch(chain._leaf, &args), std::runtime_error);
+  for (ZELHandle<Widget>* const pHeld : {&chain._parent, &chain._root})
+    *pHeld = nullptr;
+  EXPECT_EQ(3, chain.CountLiving());
+  ASSERT_EQ(6u, builder._hoard.size());
+  EXPECT_EQ(chain._leaf.Get(), builder._hoard[1]->GetNode());
+  builder._hoard.clear();
+  EXPECT_EQ(1, chain.CountLiving());
 }
