@@ -109,7 +109,7 @@ constexpr bool ZELCheckClass_()
 // The arguments below are names, which stand in no parentheses. NOLINTBEGIN(bugprone-macro-parentheses)
 
 // The record is a constant that needs no initialiser, so that it is there before main() begins and after it has ended. The
-// registrar comes last for want of a semicolon: without one the macro does not compile.
+// registrar comes last, without its semicolon: a use that forgets it does not compile.
 #define ZELImplementRecord_(Name, Class, Module, Id, BaseRecord, Create)                                                                   \
   static ZELMetaClass ZELRecord##Name(                                                                                                     \
       #Class, #Module, Id, BaseRecord, [](ZELBaseUnknown* i_pObject) -> void* { return static_cast<Class*>(i_pObject); },                  \
