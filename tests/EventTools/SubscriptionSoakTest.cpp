@@ -194,7 +194,7 @@ TEST(SubscriptionSoak, RandomOperationsAgreeWithTheModelAndLeaveNothingBehind)
 {
   const long seeds = GetSoakOperations(20 * STEPS) / STEPS;
   long runs = 0;
-  for (unsigned seed = 1; seed <= seeds; ++seed)
+  for (unsigned seed = 1; seed <= static_cast<unsigned long>(seeds); ++seed)
   {
     Soak soak(seed);
     soak.Run(STEPS);
