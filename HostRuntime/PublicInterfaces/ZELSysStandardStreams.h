@@ -9,6 +9,7 @@
 #include "ZELUnicodeString.h"
 
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 // Once, before the first use: no line ends are translated, a console shows UTF-8, and a reader that has gone away makes
@@ -19,9 +20,9 @@ OPXHOSTRUNTIME_EXPORT void ZELSysPrepareStandardStreams();
 // cannot be read.
 OPXHOSTRUNTIME_EXPORT int ZELSysReadStandardInput(char* o_buffer, int i_size);
 
-// Everything or false: nobody reads any more. Nothing is held back.
-OPXHOSTRUNTIME_EXPORT bool ZELSysWriteStandardOutput(std::string_view i_text);
-OPXHOSTRUNTIME_EXPORT bool ZELSysWriteStandardError(std::string_view i_text);
+// Everything, or why not; std::errc::broken_pipe: nobody reads any more. Nothing is held back.
+OPXHOSTRUNTIME_EXPORT std::error_code ZELSysWriteStandardOutput(std::string_view i_text);
+OPXHOSTRUNTIME_EXPORT std::error_code ZELSysWriteStandardError(std::string_view i_text);
 
 // Whether a person sees the standard error stream.
 OPXHOSTRUNTIME_EXPORT bool ZELSysIsStandardErrorTerminal();

@@ -16,7 +16,7 @@ constexpr const char* footer = "Without --stdio the first rows of the directory 
                                "What changes is told by lines of the output that answer nothing: tree/selectionChanged\n"
                                "Exit codes:\n"
                                "  0  done; also when the input ends or nobody reads the output any more\n"
-                               "  1  the directory cannot be read\n"
+                               "  1  the directory cannot be read, or the output cannot be written\n"
                                "  2  wrong usage";
 
 // The parser takes the last argument first.
@@ -28,18 +28,19 @@ std::vector<std::string> MakeReversed(const std::vector<ZELUnicodeString>& i_arg
   return reversed;
 }
 
-OPXExplorerOptions::ExitCode Tell(const CLI::App& i_app, const CLI::ParseError& i_error)
+OPXExplorerOptions::ExitCode Tell(const CLI::App& i_app, const CLI::ParseError& i_error, OPXExplorerOutput& io_output)
 {
   std::ostringstream output;
   std::ostringstream errors;
   const bool isError = i_app.exit(i_error, output, errors) != 0;
-  ZELSysWriteStandardOutput(output.str());
+  io_output.Write(output.str());
   ZELSysWriteStandardError(errors.str());
   return isError ? OPXExplorerOptions::WrongUsage : OPXExplorerOptions::Done;
 }
 } // namespace
 
-std::optional<OPXExplorerOptions::ExitCode> OPXExplorerOptions::Parse(const std::vector<ZELUnicodeString>& i_arguments)
+std::optional<OPXExplorerOptions::ExitCode> OPXExplorerOptions::Parse(const std::vector<ZELUnicodeString>& i_arguments,
+                                                                      OPXExplorerOutput& io_output)
 {
   CLI::App app(purpose, "opx-explorer");
   app.footer(footer);
@@ -53,7 +54,7 @@ std::optional<OPXExplorerOptions::ExitCode> OPXExplorerOptions::Parse(const std:
   }
   catch (const CLI::ParseError& error)
   {
-    return Tell(app, error);
+    return Tell(app, error, io_output);
   }
   return std::nullopt;
 }

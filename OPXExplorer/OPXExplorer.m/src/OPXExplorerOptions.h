@@ -3,6 +3,7 @@
 #ifndef OPXExplorerOptions_H
 #define OPXExplorerOptions_H
 
+#include "OPXExplorerOutput.h"
 #include "ZELUnicodeString.h"
 
 #include <optional>
@@ -15,12 +16,12 @@ public:
   enum ExitCode
   {
     Done = 0,
-    NotReadable = 1,
+    Failed = 1,
     WrongUsage = 2
   };
 
   // The code to end with at once, after help, version or an error has been told; nothing when there is work to do.
-  std::optional<ExitCode> Parse(const std::vector<ZELUnicodeString>& i_arguments);
+  std::optional<ExitCode> Parse(const std::vector<ZELUnicodeString>& i_arguments, OPXExplorerOutput& io_output);
 
   const std::string& GetDirectory() const noexcept { return _directory; }
   bool IsStdio() const noexcept { return _isStdio; }

@@ -2,27 +2,23 @@
 
 #include "ZELSysStandardStreams.h"
 
-OPXExplorerStdioServer::OPXExplorerStdioServer(ZELSYPAbstractDataSource& i_source, OPXTreeRowsSource& i_rows)
-    : _session(i_source, i_rows, [this](const std::string& i_message) { Write(i_message); }),
-      _reader(ZELSysReadStandardInput, OPXTreeSession::MaxMessageSize)
+OPXExplorerStdioServer::OPXExplorerStdioServer(ZELSYPAbstractDataSource& i_source, OPXTreeRowsSource& i_rows, OPXExplorerOutput& io_output)
+    : _session(i_source, i_rows, [&io_output](const std::string& i_message) { io_output.Write(i_message + "\n"); }),
+      _reader(ZELSysReadStandardInput, OPXTreeSession::MaxMessageSize),
+      _output(io_output)
 {
 }
 
 void OPXExplorerStdioServer::Run()
 {
-  while (_isRead && _reader.Next())
+  while (_output.IsOpen() && _reader.Next())
     ServeLine();
 }
 
 void OPXExplorerStdioServer::ServeLine()
 {
   if (_reader.IsTooLong())
-    Write(OPXTreeSession::AnswerOversized());
+    _output.Write(OPXTreeSession::AnswerOversized() + "\n");
   else
     _session.Receive(_reader.GetLine());
-}
-
-void OPXExplorerStdioServer::Write(const std::string& i_message)
-{
-  _isRead = _isRead && ZELSysWriteStandardOutput(i_message + "\n");
 }

@@ -4,28 +4,26 @@
 #define OPXExplorerStdioServer_H
 
 #include "OPXExplorerLineReader.h"
+#include "OPXExplorerOutput.h"
 #include "OPXTreeSession.h"
-
-#include <string>
 
 class OPXExplorerStdioServer
 {
 public:
-  // Both are borrowed for the life of the server.
-  OPXExplorerStdioServer(ZELSYPAbstractDataSource& i_source, OPXTreeRowsSource& i_rows);
+  // All three are borrowed for the life of the server.
+  OPXExplorerStdioServer(ZELSYPAbstractDataSource& i_source, OPXTreeRowsSource& i_rows, OPXExplorerOutput& io_output);
   OPXExplorerStdioServer(const OPXExplorerStdioServer&) = delete;
   OPXExplorerStdioServer& operator=(const OPXExplorerStdioServer&) = delete;
 
-  // Serves until the input ends or nobody reads the answers any more.
+  // Serves until the input ends or the output takes no more answers.
   void Run();
 
 private:
   void ServeLine();
-  void Write(const std::string& i_message);
 
   OPXTreeSession _session;
   OPXExplorerLineReader _reader;
-  bool _isRead = true;
+  OPXExplorerOutput& _output;
 };
 
 #endif

@@ -103,7 +103,10 @@ std::string MakeLine(const nlohmann::json& i_row, std::size_t i_level)
 
 } // namespace
 
-OPXExplorerTreePrinter::OPXExplorerTreePrinter(const OPXTreeSession& i_session, int i_rows) : _session(i_session), _rows(i_rows) {}
+OPXExplorerTreePrinter::OPXExplorerTreePrinter(const OPXTreeSession& i_session, int i_rows, OPXExplorerOutput& io_output)
+    : _session(i_session), _rows(i_rows), _output(io_output)
+{
+}
 
 bool OPXExplorerTreePrinter::Print()
 {
@@ -113,7 +116,7 @@ bool OPXExplorerTreePrinter::Print()
 void OPXExplorerTreePrinter::Write(std::string i_line)
 {
   i_line.erase(i_line.find_last_not_of(' ') + 1);
-  _isRead = _isRead && ZELSysWriteStandardOutput(i_line + "\n");
+  _output.Write(i_line + "\n");
 }
 
 bool OPXExplorerTreePrinter::PrintLevel(const Path& i_path)
@@ -127,7 +130,7 @@ bool OPXExplorerTreePrinter::PrintLevel(const Path& i_path)
   const nlohmann::json& result = answer["result"]["groupedRequestResult"];
   bool isGood = true;
   for (const nlohmann::json& row : result["rows"][0])
-    isGood = _isRead ? PrintRow(row, i_path) && isGood : isGood;
+    isGood = _output.IsOpen() ? PrintRow(row, i_path) && isGood : isGood;
   const int more = result["numberOfChildren"][0].get<int>() - static_cast<int>(result["rows"][0].size());
   if (more > 0)
     Write(MakeIndent(i_path.size()) + "... and " + std::to_string(more) + " more");
@@ -139,7 +142,7 @@ bool OPXExplorerTreePrinter::PrintLevel(const Path& i_path)
 bool OPXExplorerTreePrinter::PrintRow(const nlohmann::json& i_row, const Path& i_path)
 {
   Write(MakeLine(i_row, i_path.size()));
-  if (!_isRead || !i_row["wux_group"].get<bool>() || i_path.size() + 1 == levels)
+  if (!_output.IsOpen() || !i_row["wux_group"].get<bool>() || i_path.size() + 1 == levels)
     return true;
   Path path = i_path;
   path.push_back(i_row["id"]);

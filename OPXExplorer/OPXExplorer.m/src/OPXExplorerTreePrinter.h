@@ -1,7 +1,9 @@
 // OPXExplorerTreePrinter: the first levels of a tree as indented lines for a person, asked of a session like any view.
-// return OPXExplorerTreePrinter(session).Print();
+// return OPXExplorerTreePrinter(session, rows, output).Print();
 #ifndef OPXExplorerTreePrinter_H
 #define OPXExplorerTreePrinter_H
+
+#include "OPXExplorerOutput.h"
 
 #include <nlohmann/json.hpp>
 #include <string>
@@ -12,11 +14,11 @@ class OPXTreeSession;
 class OPXExplorerTreePrinter
 {
 public:
-  // The session is borrowed for the life of the printer.
+  // The session and the output are borrowed for the life of the printer.
   // i_rows: of each directory, at most.
-  OPXExplorerTreePrinter(const OPXTreeSession& i_session, int i_rows);
+  OPXExplorerTreePrinter(const OPXTreeSession& i_session, int i_rows, OPXExplorerOutput& io_output);
 
-  // Two levels, to standard output, for as long as somebody reads it. False when the tree could not be read, which is
+  // Two levels, for as long as the output is open. False when the tree could not be read, which is
   // told on standard error.
   bool Print();
 
@@ -30,7 +32,7 @@ private:
 
   const OPXTreeSession& _session;
   int _rows;
-  bool _isRead = true;
+  OPXExplorerOutput& _output;
 };
 
 #endif

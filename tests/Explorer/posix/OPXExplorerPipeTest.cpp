@@ -1,4 +1,4 @@
-// A reader that goes away, made with a shell.
+// A reader that goes away and a disk that is full, made with a shell.
 #include "ChildProcess.h"
 #include "TemporaryTree.h"
 
@@ -27,6 +27,22 @@ TEST(OPXExplorerPipeTest, APersonMayStopReading)
     tree.AddFile("directory" + std::to_string(i) + "\\file");
   const ChildResult result = RunShell("{ \"$1\" \"$2\"; echo \"code $?\" >&2; } | true", tree);
   EXPECT_EQ(result.err, "code 0\n");
+}
+
+TEST(OPXExplorerPipeTest, AFullDiskIsToldOnceAndEndsItWithOne)
+{
+  TemporaryTree tree;
+  tree.AddFile("one");
+  tree.AddFile("two");
+  for (const char* const command : {"\"$1\" \"$2\" >/dev/full", "printf 'noise\\nnoise\\n' | \"$1\" --stdio \"$2\" >/dev/full",
+                                    "\"$1\" --help >/dev/full", "\"$1\" --version >/dev/full"})
+  {
+    const ChildResult result = RunShell(command, tree);
+    EXPECT_EQ(result.code, 1) << command;
+    EXPECT_EQ(result.err, "opx-explorer: cannot write the output: No space left on device; mend that or send the output elsewhere, "
+                          "then run it again\n")
+        << command;
+  }
 }
 
 TEST(OPXExplorerPipeTest, EachAnswerIsSentBeforeTheNextMessageIsRead)

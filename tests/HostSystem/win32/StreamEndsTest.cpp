@@ -1,4 +1,4 @@
-// The end of ZELSysStandardStreamsTest that is nobody: each system makes it in its own way.
+// The ends of ZELSysStandardStreamsTest that are nobody, and what cannot be written: each system makes them in its own way.
 #include "ChildProgram.h"
 #include "ZELSysStandardStreams.h"
 
@@ -10,5 +10,14 @@ OPX_CHILD_ENTRY(WriteToNobody)
   if (!CreatePipe(&read, &write, nullptr, 0) || !CloseHandle(read) || !SetStdHandle(STD_OUTPUT_HANDLE, write))
     return 2;
   ZELSysPrepareStandardStreams();
-  return ZELSysWriteStandardOutput("text") ? 1 : 0;
+  return ZELSysWriteStandardOutput("text") == std::errc::broken_pipe ? 0 : 1;
+}
+
+OPX_CHILD_ENTRY(WriteToWhatTakesNothing)
+{
+  HANDLE read = nullptr, write = nullptr;
+  if (!CreatePipe(&read, &write, nullptr, 0) || !SetStdHandle(STD_OUTPUT_HANDLE, read))
+    return 2;
+  const std::error_code error = ZELSysWriteStandardOutput("text");
+  return error == std::errc::permission_denied && !error.message().empty() ? 0 : 1;
 }

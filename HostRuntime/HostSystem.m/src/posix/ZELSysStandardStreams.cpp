@@ -6,16 +6,16 @@
 
 namespace
 {
-bool WriteAll(int i_stream, std::string_view i_text)
+std::error_code WriteAll(int i_stream, std::string_view i_text)
 {
   while (!i_text.empty())
   {
     const ssize_t count = write(i_stream, i_text.data(), i_text.size());
     if (count < 0 && errno != EINTR)
-      return false;
+      return {errno, std::system_category()};
     i_text.remove_prefix(count < 0 ? 0 : static_cast<std::size_t>(count));
   }
-  return true;
+  return {};
 }
 } // namespace
 
@@ -33,12 +33,12 @@ int ZELSysReadStandardInput(char* o_buffer, int i_size)
   return count < 0 ? 0 : static_cast<int>(count);
 }
 
-bool ZELSysWriteStandardOutput(std::string_view i_text)
+std::error_code ZELSysWriteStandardOutput(std::string_view i_text)
 {
   return WriteAll(STDOUT_FILENO, i_text);
 }
 
-bool ZELSysWriteStandardError(std::string_view i_text)
+std::error_code ZELSysWriteStandardError(std::string_view i_text)
 {
   return WriteAll(STDERR_FILENO, i_text);
 }

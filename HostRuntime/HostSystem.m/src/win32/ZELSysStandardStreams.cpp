@@ -8,7 +8,16 @@
 
 namespace
 {
-bool WriteAll(DWORD i_stream, std::string_view i_text)
+// The system tells in two ways that a pipe has no other end any more.
+std::error_code GetWriteError()
+{
+  const DWORD error = GetLastError();
+  if (error == ERROR_BROKEN_PIPE || error == ERROR_NO_DATA)
+    return std::make_error_code(std::errc::broken_pipe);
+  return {static_cast<int>(error), std::system_category()};
+}
+
+std::error_code WriteAll(DWORD i_stream, std::string_view i_text)
 {
   const HANDLE stream = GetStdHandle(i_stream);
   while (!i_text.empty())
@@ -17,10 +26,10 @@ bool WriteAll(DWORD i_stream, std::string_view i_text)
     const DWORD wanted = static_cast<DWORD>(i_text.size() < 32768 ? i_text.size() : 32768);
     DWORD count = 0;
     if (!WriteFile(stream, i_text.data(), wanted, &count, nullptr))
-      return false;
+      return GetWriteError();
     i_text.remove_prefix(count);
   }
-  return true;
+  return {};
 }
 
 std::u16string_view GetView(const wchar_t* i_text)
@@ -44,12 +53,12 @@ int ZELSysReadStandardInput(char* o_buffer, int i_size)
   return ReadFile(GetStdHandle(STD_INPUT_HANDLE), o_buffer, static_cast<DWORD>(i_size), &count, nullptr) ? static_cast<int>(count) : 0;
 }
 
-bool ZELSysWriteStandardOutput(std::string_view i_text)
+std::error_code ZELSysWriteStandardOutput(std::string_view i_text)
 {
   return WriteAll(STD_OUTPUT_HANDLE, i_text);
 }
 
-bool ZELSysWriteStandardError(std::string_view i_text)
+std::error_code ZELSysWriteStandardError(std::string_view i_text)
 {
   return WriteAll(STD_ERROR_HANDLE, i_text);
 }
