@@ -8,21 +8,30 @@
 #include "OPXTreeSession.h"
 #include "ZELSysStandardStreams.h"
 
+#include <string>
 #include <utility>
 #include <vector>
 
 namespace
 {
+OPXExplorerOptions::ExitCode Fail(const std::string& i_what)
+{
+  ZELSysWriteStandardError("opx-explorer: cannot " + i_what + "\n");
+  return OPXExplorerOptions::Failed;
+}
+
 OPXExplorerOptions::ExitCode Serve(OPXExplorerDirectorySource& io_source, OPXExplorerOutput& io_output)
 {
   OPXExplorerStdioServer(io_source, io_source, io_output).Run();
   return OPXExplorerOptions::Done;
 }
 
-OPXExplorerOptions::ExitCode Print(OPXExplorerDirectorySource& io_source, int i_rows, OPXExplorerOutput& io_output)
+OPXExplorerOptions::ExitCode Print(OPXExplorerDirectorySource& io_source, const OPXExplorerOptions& i_options, OPXExplorerOutput& io_output)
 {
   const OPXTreeSession session(io_source);
-  return OPXExplorerTreePrinter(session, i_rows, io_output).Print() ? OPXExplorerOptions::Done : OPXExplorerOptions::Failed;
+  if (OPXExplorerTreePrinter(session, i_options.GetRows(), io_output).Print())
+    return OPXExplorerOptions::Done;
+  return Fail("list the directory " + i_options.GetDirectory() + " to its end; see that it can be reached, then run it again");
 }
 
 OPXExplorerOptions::ExitCode Run(const std::vector<ZELUnicodeString>& i_arguments, OPXExplorerOutput& io_output)
@@ -32,12 +41,9 @@ OPXExplorerOptions::ExitCode Run(const std::vector<ZELUnicodeString>& i_argument
     return *code;
   ZELSysRootedDirectory root(ZELUnicodeString::FromUTF8(options.GetDirectory()));
   if (!root.IsOpen())
-  {
-    ZELSysWriteStandardError("opx-explorer: cannot read the directory " + options.GetDirectory() + "\n");
-    return OPXExplorerOptions::Failed;
-  }
+    return Fail("read the directory " + options.GetDirectory());
   OPXExplorerDirectorySource source(std::move(root));
-  return options.IsStdio() ? Serve(source, io_output) : Print(source, options.GetRows(), io_output);
+  return options.IsStdio() ? Serve(source, io_output) : Print(source, options, io_output);
 }
 } // namespace
 

@@ -127,6 +127,8 @@ bool OPXExplorerTreePrinter::PrintLevel(const Path& i_path)
     ZELSysWriteStandardError("opx-explorer: " + answer["error"].dump() + "\n");
     return false;
   }
+  if (answer["result"].contains("notFound"))
+    return PrintNotReadable(i_path);
   const nlohmann::json& result = answer["result"]["groupedRequestResult"];
   bool isGood = true;
   for (const nlohmann::json& row : result["rows"][0])
@@ -134,9 +136,15 @@ bool OPXExplorerTreePrinter::PrintLevel(const Path& i_path)
   const int more = result["numberOfChildren"][0].get<int>() - static_cast<int>(result["rows"][0].size());
   if (more > 0)
     Write(MakeIndent(i_path.size()) + "... and " + std::to_string(more) + " more");
-  if (answer["result"].contains("notFound"))
-    Write(MakeIndent(i_path.size()) + "(not readable)");
   return isGood;
+}
+
+// A directory in the tree has a line that says so; without the one that was asked for there is no tree.
+bool OPXExplorerTreePrinter::PrintNotReadable(const Path& i_path)
+{
+  if (!i_path.empty())
+    Write(MakeIndent(i_path.size()) + "(not readable)");
+  return !i_path.empty();
 }
 
 bool OPXExplorerTreePrinter::PrintRow(const nlohmann::json& i_row, const Path& i_path)

@@ -18,14 +18,15 @@ public:
   // i_rows: of each directory, at most.
   OPXExplorerTreePrinter(const OPXTreeSession& i_session, int i_rows, OPXExplorerOutput& io_output);
 
-  // Two levels, for as long as the output is open. False when the tree could not be read, which is
-  // told on standard error.
+  // Two levels, for as long as the output is open. False when the directory itself could not be listed to its
+  // end, or a request failed, which is told on standard error.
   bool Print();
 
 private:
   using Path = std::vector<std::string>;
 
   bool PrintLevel(const Path& i_path);
+  bool PrintNotReadable(const Path& i_path);
   bool PrintRow(const nlohmann::json& i_row, const Path& i_path);
   nlohmann::json RequestRows(const Path& i_path) const;
   void Write(std::string i_line);

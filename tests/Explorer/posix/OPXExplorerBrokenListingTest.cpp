@@ -1,4 +1,5 @@
 // A directory that can be opened and then not be listed: made by running out of descriptors, which Windows does not.
+#include "ChildProcess.h"
 #include "DirectoryView.h"
 #include "TemporaryTree.h"
 
@@ -46,4 +47,18 @@ TEST(OPXExplorerBrokenListingTest, ADirectoryThatBreaksOffIsNotFoundUntilItCanBe
   }
   EXPECT_EQ(answer["result"], json::parse(R"({"groupedRequestResult":{"lastRow":[0],"numberOfChildren":[0],"rows":[[]]},"notFound":[0]})"));
   EXPECT_TRUE(view.IsFound({}));
+}
+
+TEST(OPXExplorerBrokenListingTest, ADirectoryThatBreaksOffIsNoTreeToPrint)
+{
+  TemporaryTree tree;
+  tree.AddFile("file");
+  // Descriptors for the three streams, the directory, and the same directory held open for the request.
+  const ChildResult result = ChildProcess("/bin/bash", {"-c", "ulimit -n 5; exec \"$1\" \"$2\"", "bash",
+                                                        ChildProcess::Beside("opx-explorer"), tree.SystemPath().string()})
+                                 .Run();
+  EXPECT_EQ(result.code, 1) << result;
+  EXPECT_EQ(result.out, "");
+  EXPECT_EQ(result.err, "opx-explorer: cannot list the directory " + tree.SystemPath().string() +
+                            " to its end; see that it can be reached, then run it again\n");
 }
