@@ -1,12 +1,15 @@
-// A directory that can be opened and then not be listed: made by running out of descriptors, which Windows does not.
+// A directory that can be opened and then not be listed: made by running out of descriptors, or by a process that has
+// ended, neither of which Windows has.
 #include "ChildProcess.h"
 #include "DirectoryView.h"
 #include "TemporaryTree.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <fcntl.h>
+#include <string>
 #include <sys/resource.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 using nlohmann::json;
@@ -32,6 +35,32 @@ public:
 private:
   rlimit _before{};
 };
+
+// A process that has ended and is not forgotten yet: the system opens the folder of its network and cannot list it.
+class EndedProcess
+{
+public:
+  EndedProcess() : _process(fork())
+  {
+    if (_process == 0)
+      _exit(0);
+    siginfo_t end;
+    waitid(P_PID, static_cast<id_t>(_process), &end, WEXITED | WNOWAIT);
+  }
+  EndedProcess(const EndedProcess&) = delete;
+  EndedProcess& operator=(const EndedProcess&) = delete;
+  ~EndedProcess() { waitpid(_process, nullptr, 0); }
+
+  std::string GetFolder() const { return "/proc/" + std::to_string(_process); }
+
+private:
+  pid_t _process;
+};
+
+ChildResult Print(const std::string& i_directory)
+{
+  return ChildProcess(ChildProcess::Beside("opx-explorer"), {"--rows", "100", i_directory}).Run();
+}
 } // namespace
 
 TEST(OPXExplorerBrokenListingTest, ADirectoryThatBreaksOffIsNotFoundUntilItCanBeListed)
@@ -51,14 +80,19 @@ TEST(OPXExplorerBrokenListingTest, ADirectoryThatBreaksOffIsNotFoundUntilItCanBe
 
 TEST(OPXExplorerBrokenListingTest, ADirectoryThatBreaksOffIsNoTreeToPrint)
 {
-  TemporaryTree tree;
-  tree.AddFile("file");
-  // Descriptors for the three streams, the directory, and the same directory held open for the request.
-  const ChildResult result = ChildProcess("/bin/bash", {"-c", "ulimit -n 5; exec \"$1\" \"$2\"", "bash",
-                                                        ChildProcess::Beside("opx-explorer"), tree.SystemPath().string()})
-                                 .Run();
+  const EndedProcess process;
+  const ChildResult result = Print(process.GetFolder() + "/net");
   EXPECT_EQ(result.code, 1) << result;
   EXPECT_EQ(result.out, "");
-  EXPECT_EQ(result.err, "opx-explorer: cannot list the directory " + tree.SystemPath().string() +
-                            " to its end; see that it can be reached, then run it again\n");
+  EXPECT_EQ(result.err, "opx-explorer: cannot list the directory " + process.GetFolder() +
+                            "/net to its end; see that it can be reached, then run it again\n");
+}
+
+TEST(OPXExplorerBrokenListingTest, ADirectoryInTheTreeThatBreaksOffHasALineThatSaysSo)
+{
+  const EndedProcess process;
+  const ChildResult result = Print(process.GetFolder());
+  EXPECT_TRUE(result.Succeeded()) << result;
+  EXPECT_THAT(result.out, testing::ContainsRegex("\nnet/[^\n]*\n  \\(not readable\\)\n"));
+  EXPECT_EQ(result.err, "");
 }
