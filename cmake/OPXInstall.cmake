@@ -3,6 +3,10 @@ include(CMakePackageConfigHelpers)
 
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/OPXCoreTools")
 set(header_folder "${CMAKE_INSTALL_INCLUDEDIR}/OPXCoreTools")
+# How installed files find each other, so that an installed tree can be moved.
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_LIBDIR BASE_DIRECTORY "${CMAKE_INSTALL_FULL_BINDIR}" OUTPUT_VARIABLE libraries_from_programs)
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_INCLUDEDIR BASE_DIRECTORY "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig"
+  OUTPUT_VARIABLE headers_from_pkgconfig)
 
 set_target_properties(OPXHostRuntime PROPERTIES EXPORT_NAME HostRuntime INSTALL_RPATH "$ORIGIN")
 set_target_properties(OPXCoreTools PROPERTIES EXPORT_NAME CoreTools INSTALL_RPATH "$ORIGIN")
@@ -18,7 +22,7 @@ if(TARGET OPXTreeBridge)
     DESTINATION "${header_folder}" FILES_MATCHING PATTERN "*.h")
 endif()
 if(TARGET opx-explorer)
-  set_target_properties(opx-explorer PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+  set_target_properties(opx-explorer PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries_from_programs}")
   install(TARGETS opx-explorer)
 endif()
 
@@ -31,4 +35,5 @@ install(FILES "${CMAKE_BINARY_DIR}/generated/OPXCoreToolsConfig.cmake" "${CMAKE_
   DESTINATION "${package_folder}")
 
 configure_file(cmake/OPXCoreTools.pc.in "${CMAKE_BINARY_DIR}/generated/OPXCoreTools.pc" @ONLY)
-install(FILES "${CMAKE_BINARY_DIR}/generated/OPXCoreTools.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+install(FILES "${CMAKE_BINARY_DIR}/generated/OPXCoreTools.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig"
+  COMPONENT pkgconfig)
