@@ -1,5 +1,4 @@
-// A directory that can be opened and then not be listed: made by running out of descriptors, or by a process that has
-// ended, neither of which Windows has.
+// A directory that can be opened and then not be listed, made in ways that Windows does not have.
 #include "ChildProcess.h"
 #include "DirectoryView.h"
 #include "TemporaryTree.h"
@@ -8,7 +7,6 @@
 
 #include <fcntl.h>
 #include <string>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -16,24 +14,34 @@ using nlohmann::json;
 
 namespace
 {
-// While it lives, this process can open one more descriptor and no second one.
-class OneDescriptor
+int GetNextDescriptor()
+{
+  const int next = open("/dev/null", O_RDONLY | O_CLOEXEC);
+  close(next);
+  return next;
+}
+
+// While it lives, the open directory can be asked for everything but its entries.
+class Unlistable
 {
 public:
-  OneDescriptor()
+  explicit Unlistable(int i_directory) : _directory(i_directory), _kept(dup(i_directory))
   {
-    getrlimit(RLIMIT_NOFILE, &_before);
-    const int next = open("/dev/null", O_RDONLY | O_CLOEXEC);
-    close(next);
-    const rlimit limit{static_cast<rlim_t>(next) + 1, _before.rlim_max};
-    setrlimit(RLIMIT_NOFILE, &limit);
+    const int bare = open(("/proc/self/fd/" + std::to_string(i_directory)).c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
+    dup2(bare, _directory);
+    close(bare);
   }
-  OneDescriptor(const OneDescriptor&) = delete;
-  OneDescriptor& operator=(const OneDescriptor&) = delete;
-  ~OneDescriptor() { setrlimit(RLIMIT_NOFILE, &_before); }
+  Unlistable(const Unlistable&) = delete;
+  Unlistable& operator=(const Unlistable&) = delete;
+  ~Unlistable()
+  {
+    dup2(_kept, _directory);
+    close(_kept);
+  }
 
 private:
-  rlimit _before{};
+  int _directory;
+  int _kept;
 };
 
 // A process that has ended and is not forgotten yet: the system opens the folder of its network and cannot list it.
@@ -67,14 +75,14 @@ TEST(OPXExplorerBrokenListingTest, ADirectoryThatBreaksOffIsNotFoundUntilItCanBe
 {
   TemporaryTree tree;
   tree.AddFile("file");
+  const int directory = GetNextDescriptor();
   const DirectoryView view(tree.SystemPath());
   json answer;
   {
-    // The directory is held open once more for the request, and a second time to be listed.
-    const OneDescriptor only;
-    answer = view.Ask("tree/rows", {{"startRow", 0}, {"endRow", 9}, {"groupKeys", json::array()}});
+    const Unlistable broken(directory);
+    answer = view.AskRows({});
   }
-  EXPECT_EQ(answer["result"], json::parse(R"({"groupedRequestResult":{"lastRow":[0],"numberOfChildren":[0],"rows":[[]]},"notFound":[0]})"));
+  EXPECT_EQ(answer, json::parse(R"({"groupedRequestResult":{"lastRow":[0],"numberOfChildren":[0],"rows":[[]]},"notFound":[0]})"));
   EXPECT_TRUE(view.IsFound({}));
 }
 
