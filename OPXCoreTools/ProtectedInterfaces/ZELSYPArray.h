@@ -33,7 +33,7 @@ public:
   ZELSYPArray& operator=(const ZELSYPArray& i_other);
   ~ZELSYPArray()
   {
-    RemoveAll();
+    DestroyElements();
     Blocks::GiveBack(_data);
   }
 
@@ -76,7 +76,11 @@ public:
   // The same for the last element; an empty array answers a default element.
   T RemoveLast() { return _length == 0 ? T() : RemoveAt(_length - 1); }
   // Keeps the room.
-  void RemoveAll();
+  void RemoveAll()
+  {
+    DestroyElements();
+    _length = 0;
+  }
 
   T* begin() noexcept { return _data; }
   T* end() noexcept { return _data + _length; }
@@ -85,6 +89,7 @@ public:
 
 private:
   bool HasElement(int i_index) const;
+  void DestroyElements();
   template <class From>
   int AppendFrom(From&& i_element);
   template <class From>
@@ -205,13 +210,12 @@ T ZELSYPArray<T, Blocks>::RemoveAt(int i_index)
 }
 
 template <class T, class Blocks>
-void ZELSYPArray<T, Blocks>::RemoveAll()
+void ZELSYPArray<T, Blocks>::DestroyElements()
 {
   // What stands here is a T and nothing that derives from it: the destructor needs no look-up.
   T* const pEnd = end();
   for (T* pElement = begin(); pElement != pEnd; ++pElement)
     pElement->T::~T();
-  _length = 0;
 }
 
 template <class T, class Blocks>

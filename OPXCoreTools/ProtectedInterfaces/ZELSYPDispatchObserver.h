@@ -47,7 +47,7 @@ private:
   static bool AnyLives() noexcept { return s_pLast != nullptr; }
   static void Tell(void (ZELSYPDispatchObserver::*i_what)(const Step&), const Step& i_step);
 
-  static ZELSYPDispatchObserver* s_pLast;
+  OPXCORETOOLS_NO_EXPORT static ZELSYPDispatchObserver* s_pLast;
   ZELSYPDispatchObserver* _pPrevious;
 };
 

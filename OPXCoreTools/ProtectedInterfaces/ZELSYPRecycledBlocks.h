@@ -1,8 +1,8 @@
 // ZELSYPRecycledBlocks: memory that what was just destroyed gives back and what comes next takes again, without the heap.
 // void* pBlock = ZELSYPRecycledBlocks::Take(64); ... ZELSYPRecycledBlocks::GiveBack(pBlock);
 //
-// Each thread keeps the blocks that were given back on it, by powers of two and up to 4 MiB of each, until it ends. Any
-// thread.
+// Each thread owns the first blocks that it takes, by powers of two and up to 4 MiB of each, and keeps those given back on
+// it until it ends. All others are the heap's again when they are given back, on whatever thread. Any thread.
 #ifndef ZELSYPRecycledBlocks_H
 #define ZELSYPRecycledBlocks_H
 
@@ -36,10 +36,13 @@ private:
     LargestBits = 20,
     KindCount = LargestBits - SmallestBits + 1,
     NotKept = KindCount,
-    // Of each size. A thread that gives back what others take would keep ever more.
-    MostKeptBytes = std::size_t{4} << 20,
+    // Of each size.
+    MostOwnedBytes = std::size_t{4} << 20,
     NoBlock = ~static_cast<std::size_t>(0)
   };
+  struct Kept;
+  struct KeptUntilThreadEnds;
+
   // Stands before the memory that is handed out.
   struct alignas(__STDCPP_DEFAULT_NEW_ALIGNMENT__) Head
   {
@@ -49,6 +52,8 @@ private:
       std::size_t _kind;
       Head* _pNext;
     };
+    // The thread that keeps the block; null: none.
+    Kept* _pOwner;
   };
   // Known to the compiler where the size is.
   static constexpr std::size_t KindOf(std::size_t i_bytes) noexcept
@@ -60,14 +65,10 @@ private:
     return 64 - static_cast<std::size_t>(__builtin_clzll(i_bytes + sizeof(Head) - 1)) - SmallestBits;
   }
 
-  struct Kept;
-  struct KeptUntilThreadEnds;
-
   static Head* HeadOf(void* i_pBlock) noexcept { return static_cast<Head*>(i_pBlock) - 1; }
   static void* TakeOf(std::size_t i_kind, std::size_t i_bytes) noexcept;
   static void* TakeFromHeap(std::size_t i_kind, std::size_t i_bytes) noexcept;
   static void Keep(Head* i_pBlock) noexcept;
-  static void KeepFirst(Head* i_pBlock) noexcept;
 };
 
 template <class T, int i_count>
@@ -79,7 +80,7 @@ public:
     Capacity = i_count
   };
 
-  Room() noexcept : _head{} { _head._kind = NoBlock; }
+  Room() noexcept { _head._kind = NoBlock; }
   Room(const Room&) = delete;
   Room& operator=(const Room&) = delete;
 

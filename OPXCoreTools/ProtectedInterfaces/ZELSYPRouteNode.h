@@ -1,8 +1,8 @@
-// ZELSYPRouteNode: lends the reference that a route under construction holds on a node to the stop that is made for it.
-// { ZELSYPRouteNode lender(spNode); pElt = new ZELSYPEventPathElt(lender); }     the reference is the stop's own now
+// ZELSYPRouteNode: the node that a route under construction has come to, whose reference it lends to the stop made for it.
+// ZELSYPRouteNode node(args._pRouteNode); for (spNode : nodes) { node.ComeTo(spNode); pElt = BuildElement(&args, spNode); }
 //
-// A stop that is destroyed while its lender is there gives the reference back, so that the node outlives whoever is asked
-// for a stop. UI thread only.
+// A stop that is destroyed before the route comes to the next node gives the reference back, so that the node outlives
+// whoever is asked for a stop; one that is still there then keeps it. UI thread only.
 #ifndef ZELSYPRouteNode_H
 #define ZELSYPRouteNode_H
 
@@ -13,19 +13,26 @@
 class ZELSYPRouteNode
 {
 public:
-  explicit ZELSYPRouteNode(ZELBaseUnknown_var& io_spNode) : _spNode(io_spNode) {}
+  // Stands in io_pShown until it is destroyed, and then what stood there before: whoever is asked for a stop may build
+  // another route with the same arguments.
+  explicit ZELSYPRouteNode(ZELSYPRouteNode*& io_pShown) noexcept : _pShown(io_pShown), _pBefore(std::exchange(io_pShown, this)) {}
   ZELSYPRouteNode(const ZELSYPRouteNode&) = delete;
   ZELSYPRouteNode& operator=(const ZELSYPRouteNode&) = delete;
   ~ZELSYPRouteNode()
   {
-    if (_ppLender)
-      *_ppLender = nullptr;
+    LeaveToBorrower();
+    _pShown = _pBefore;
   }
 
+  void ComeTo(ZELBaseUnknown_var& io_spNode) noexcept
+  {
+    LeaveToBorrower();
+    _pspNode = &io_spNode;
+  }
   // Whether there is a reference on this very node to lend.
-  bool Has(const ZELBaseUnknown& i_node) const noexcept { return _spNode.Get() == &i_node; }
-  ZELBaseUnknown_var Lend() noexcept { return std::move(_spNode); }
-  // Where the borrower finds the lender: null again when the lender is no more.
+  bool Has(const ZELBaseUnknown& i_node) const noexcept { return _pspNode->Get() == &i_node; }
+  ZELBaseUnknown_var Lend() noexcept { return std::move(*_pspNode); }
+  // Where the borrower finds the lender: null again when the reference is its own.
   void ShowItselfIn(ZELSYPRouteNode*& o_pLender) noexcept
   {
     o_pLender = this;
@@ -33,12 +40,20 @@ public:
   }
   void TakeBack(ZELBaseUnknown_var& io_spNode) noexcept
   {
-    _spNode = std::move(io_spNode);
+    *_pspNode = std::move(io_spNode);
     _ppLender = nullptr;
   }
 
 private:
-  ZELBaseUnknown_var& _spNode;
+  void LeaveToBorrower() noexcept
+  {
+    if (_ppLender)
+      *std::exchange(_ppLender, nullptr) = nullptr;
+  }
+
+  ZELSYPRouteNode*& _pShown;
+  ZELSYPRouteNode* const _pBefore;
+  ZELBaseUnknown_var* _pspNode = nullptr;
   ZELSYPRouteNode** _ppLender = nullptr;
 };
 

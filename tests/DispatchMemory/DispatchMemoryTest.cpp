@@ -212,28 +212,59 @@ TEST(ZELSYPRecycledBlocksTest, ExtendedBlockKeepsItsContent)
   ZELSYPRecycledBlocks::GiveBack(pBlock);
 }
 
-TEST(ZELSYPRecycledBlocksTest, ThreadThatOnlyGivesBlocksBackGivesThemToTheHeapAtItsEnd)
+TEST(ZELSYPRecycledBlocksTest, ThreadGivesWhatItKeepsToTheHeapWhenItEnds)
+{
+  const long held = HeapRequests::GetHeld();
+  long heldByThread = 0;
+  std::thread(
+      [&]
+      {
+        ZELSYPRecycledBlocks::GiveBack(ZELSYPRecycledBlocks::Take(100));
+        heldByThread = HeapRequests::GetHeld();
+      })
+      .join();
+  EXPECT_GT(heldByThread, held);
+  EXPECT_EQ(held, HeapRequests::GetHeld());
+}
+
+TEST(ZELSYPRecycledBlocksTest, BlockOfAnotherThreadGoesBackToTheHeap)
 {
   void* const pBlock = ZELSYPRecycledBlocks::Take(100);
+  long freed = 0;
+  std::thread(
+      [&]
+      {
+        ZELSYPRecycledBlocks::GiveBack(ZELSYPRecycledBlocks::Take(100));
+        const long held = HeapRequests::GetHeld();
+        ZELSYPRecycledBlocks::GiveBack(pBlock);
+        freed = held - HeapRequests::GetHeld();
+      })
+      .join();
+  EXPECT_EQ(1, freed);
+}
+
+TEST(ZELSYPRecycledBlocksTest, BlockOfAThreadThatHasEndedGoesBackToTheHeap)
+{
+  void* pBlock = nullptr;
+  std::thread([&] { pBlock = ZELSYPRecycledBlocks::Take(100); }).join();
   const long held = HeapRequests::GetHeld();
-  std::thread([pBlock] { ZELSYPRecycledBlocks::GiveBack(pBlock); }).join();
+  ZELSYPRecycledBlocks::GiveBack(pBlock);
   EXPECT_EQ(held - 1, HeapRequests::GetHeld());
 }
 
-TEST(ZELSYPRecycledBlocksTest, ThreadKeepsAtMostFourMegabytesOfASizeThatAnotherTakes)
+TEST(ZELSYPRecycledBlocksTest, ThreadKeepsAtMostFourMegabytesOfASize)
 {
-  std::vector<void*> blocks;
-  for (int block = 0; block < 100; ++block)
-    blocks.push_back(ZELSYPRecycledBlocks::Take(500 << 10));
   long freed = 0;
-  const auto giveBack = [&]
+  const auto takeAndGiveBack = [&]
   {
-    ZELSYPRecycledBlocks::GiveBack(ZELSYPRecycledBlocks::Take(1));
+    std::vector<void*> blocks(100);
+    for (void*& pBlock : blocks)
+      pBlock = ZELSYPRecycledBlocks::Take(500 << 10);
     const long held = HeapRequests::GetHeld();
     for (void* const pBlock : blocks)
       ZELSYPRecycledBlocks::GiveBack(pBlock);
     freed = held - HeapRequests::GetHeld();
   };
-  std::thread(giveBack).join();
+  std::thread(takeAndGiveBack).join();
   EXPECT_EQ(100 - 8, freed);
 }

@@ -42,21 +42,6 @@ bool HasExpectedClass(const ZELSYPEventArgs& i_args)
   return false;
 }
 
-// Shows the nodes of a route in arguments; afterwards these show what they did before, since whoever is asked for an
-// element may build another route with the same arguments.
-class ShownNode
-{
-public:
-  explicit ShownNode(ZELSYPRouteNode*& io_pShown) : _pShown(io_pShown), _pBefore(io_pShown) {}
-  ~ShownNode() { _pShown = _pBefore; }
-  ShownNode(const ShownNode&) = delete;
-  ShownNode& operator=(const ShownNode&) = delete;
-
-private:
-  ZELSYPRouteNode*& _pShown;
-  ZELSYPRouteNode* const _pBefore;
-};
-
 bool IsKnown(ZELSYPEvent::Propagation i_propagation)
 {
   const bool known = i_propagation == ZELSYPEvent::RootToOrigin || i_propagation == ZELSYPEvent::OriginToRoot;
@@ -151,15 +136,14 @@ inline void ZELSYPEventPathBuilder::AddChain(Nodes& io_list, ZELSYPEventArgs& i_
 
 bool ZELSYPEventPathBuilder::BuildElements(ZELSYPEventPath& io_path, ZELSYPEventArgs& io_args, Nodes& io_nodes)
 {
-  const ShownNode shown(io_args._pRouteNode);
+  ZELSYPRouteNode node(io_args._pRouteNode);
   io_path.ReserveElements(io_nodes.GetLength());
   const ZELSYPEventPathElt* const pNoElement = NO_ELEMENT();
   for (ZELBaseUnknown_var& spNode : io_nodes)
   {
     if (!ZELSYP_CHECK_HANDLER(spNode))
       return false;
-    ZELSYPRouteNode lender(spNode);
-    io_args._pRouteNode = &lender;
+    node.ComeTo(spNode);
     ZELSYPEventPathElt* const pElt = BuildElement(&io_args, spNode.Get());
     if (!ZELSYP_CHECK_POINTER_DETAILS(pElt, "Implementation of BuildElement returned NULL"))
       return false;

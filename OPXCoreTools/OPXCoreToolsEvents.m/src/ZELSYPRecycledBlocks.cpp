@@ -8,25 +8,22 @@
 // The blocks of one thread.
 struct ZELSYPRecycledBlocks::Kept
 {
-  Kept() noexcept
-  {
-    for (std::size_t kind = 0; kind < KindCount; ++kind)
-      _room[kind] = static_cast<std::int32_t>(MostKeptBytes / BytesOf(kind, 0));
-  }
-
-  // The last one is that of the blocks that are not kept: empty for ever, without room.
+  // The last one is that of the blocks that are not kept: empty for ever.
   Head* _lists[KindCount + 1] = {};
-  // How many blocks more each list takes.
-  std::int32_t _room[KindCount + 1] = {};
+  // How many blocks of each size the thread owns.
+  std::int32_t _owned[KindCount] = {};
 
-  // Null before the thread gave its first block back, and once it has ended.
+  // Of a thread that owns no block yet, and of one that has ended.
+  static Kept s_none;
   [[gnu::tls_model("initial-exec")]] static thread_local Kept* t_pKept;
 
   static std::size_t BytesOf(std::size_t i_kind, std::size_t i_bytes) noexcept;
-  static Kept* New() noexcept;
+  static Kept* OwnerOfOneMore(std::size_t i_kind) noexcept;
+  static Kept* OfThisThread() noexcept;
 };
 
-[[gnu::tls_model("initial-exec")]] thread_local ZELSYPRecycledBlocks::Kept* ZELSYPRecycledBlocks::Kept::t_pKept = nullptr;
+ZELSYPRecycledBlocks::Kept ZELSYPRecycledBlocks::Kept::s_none;
+[[gnu::tls_model("initial-exec")]] thread_local ZELSYPRecycledBlocks::Kept* ZELSYPRecycledBlocks::Kept::t_pKept = &s_none;
 
 // Ends what a thread keeps when the thread ends. By a key of the system, which is given the blocks themselves: not every
 // platform destroys the objects of a thread before it frees their memory. Whatever comes later starts anew.
@@ -36,7 +33,7 @@ struct ZELSYPRecycledBlocks::KeptUntilThreadEnds
 
   static void End(void* i_pKept) noexcept
   {
-    Kept::t_pKept = nullptr;
+    Kept::t_pKept = &Kept::s_none;
     Kept* const pKept = static_cast<Kept*>(i_pKept);
     for (Head*& pList : pKept->_lists)
       while (Head* const pBlock = pList)
@@ -50,12 +47,28 @@ struct ZELSYPRecycledBlocks::KeptUntilThreadEnds
   pthread_key_t _key;
 };
 
-[[gnu::noinline]] ZELSYPRecycledBlocks::Kept* ZELSYPRecycledBlocks::Kept::New() noexcept
+// Without memory: none.
+ZELSYPRecycledBlocks::Kept* ZELSYPRecycledBlocks::Kept::OfThisThread() noexcept
 {
   static const KeptUntilThreadEnds s_ends;
-  t_pKept = new (std::nothrow) Kept;
-  pthread_setspecific(s_ends._key, t_pKept);
+  if (t_pKept != &s_none)
+    return t_pKept;
+  if (Kept* const pNew = new (std::nothrow) Kept)
+  {
+    pthread_setspecific(s_ends._key, pNew);
+    t_pKept = pNew;
+  }
   return t_pKept;
+}
+
+// Null: the thread owns as many as it may.
+ZELSYPRecycledBlocks::Kept* ZELSYPRecycledBlocks::Kept::OwnerOfOneMore(std::size_t i_kind) noexcept
+{
+  Kept* const pKept = i_kind == NotKept ? &s_none : OfThisThread();
+  if (pKept == &s_none || pKept->_owned[i_kind] >= static_cast<std::int32_t>(MostOwnedBytes / BytesOf(i_kind, 0)))
+    return nullptr;
+  ++pKept->_owned[i_kind];
+  return pKept;
 }
 
 std::size_t ZELSYPRecycledBlocks::Kept::BytesOf(std::size_t i_kind, std::size_t i_bytes) noexcept
@@ -68,11 +81,10 @@ std::size_t ZELSYPRecycledBlocks::Kept::BytesOf(std::size_t i_kind, std::size_t 
 void* ZELSYPRecycledBlocks::TakeOf(std::size_t i_kind, std::size_t i_bytes) noexcept
 {
   Kept* const pKept = Kept::t_pKept;
-  Head* const pBlock = pKept ? pKept->_lists[i_kind] : nullptr;
-  if (!pBlock)
+  Head* const pBlock = pKept->_lists[i_kind];
+  if (__builtin_expect(!pBlock, false))
     return TakeFromHeap(i_kind, i_bytes);
   pKept->_lists[i_kind] = pBlock->_pNext;
-  ++pKept->_room[i_kind];
   pBlock->_kind = i_kind;
   return pBlock + 1;
 }
@@ -84,6 +96,7 @@ void* ZELSYPRecycledBlocks::TakeOf(std::size_t i_kind, std::size_t i_bytes) noex
     return nullptr;
   Head* const pBlock = ::new (pMemory) Head;
   pBlock->_kind = i_kind;
+  pBlock->_pOwner = Kept::OwnerOfOneMore(i_kind);
   return pBlock + 1;
 }
 
@@ -100,20 +113,9 @@ void* ZELSYPRecycledBlocks::Extend(void* io_block, std::size_t i_used, std::size
 void ZELSYPRecycledBlocks::Keep(Head* i_pBlock) noexcept
 {
   Kept* const pKept = Kept::t_pKept;
-  if (__builtin_expect(!pKept, false))
-    return KeepFirst(i_pBlock);
-  const std::size_t kind = i_pBlock->_kind;
-  if (__builtin_expect(pKept->_room[kind] == 0, false))
+  if (__builtin_expect(i_pBlock->_pOwner != pKept, false))
     return ::operator delete(i_pBlock);
-  --pKept->_room[kind];
-  i_pBlock->_pNext = pKept->_lists[kind];
-  pKept->_lists[kind] = i_pBlock;
-}
-
-[[gnu::noinline, gnu::cold]] void ZELSYPRecycledBlocks::KeepFirst(Head* i_pBlock) noexcept
-{
-  if (Kept::New())
-    Keep(i_pBlock);
-  else
-    ::operator delete(i_pBlock);
+  Head*& pList = pKept->_lists[i_pBlock->_kind];
+  i_pBlock->_pNext = pList;
+  pList = i_pBlock;
 }

@@ -11,18 +11,20 @@ ZELSYPSingleEventPathBuilder::ZELSYPSingleEventPathBuilder(ZELSYPEventHandlersSu
 
 ZELSYPSingleEventPathBuilder::~ZELSYPSingleEventPathBuilder() = default;
 
-ZELBaseUnknown* ZELSYPSingleEventPathBuilder::GetParent(ZELSYPEventArgs*, ZELBaseUnknown*)
+// Its three answers are cold: where they are the only ones that the library knows of, the compiler tests every route of every
+// builder for them before it asks.
+[[gnu::cold]] ZELBaseUnknown* ZELSYPSingleEventPathBuilder::GetParent(ZELSYPEventArgs*, ZELBaseUnknown*)
 {
   return nullptr;
 }
 
-ZELSYPEventHandlersSupport* ZELSYPSingleEventPathBuilder::GetSupportForNode(ZELBaseUnknown*)
+[[gnu::cold]] ZELSYPEventHandlersSupport* ZELSYPSingleEventPathBuilder::GetSupportForNode(ZELBaseUnknown*)
 {
   ZELSYP_CHECK_POINTER(_pEventHandlersSupport);
   return _pEventHandlersSupport;
 }
 
-ZELSYPClassEventHandlersSupport* ZELSYPSingleEventPathBuilder::GetClassSupportForNode(ZELBaseUnknown*)
+[[gnu::cold]] ZELSYPClassEventHandlersSupport* ZELSYPSingleEventPathBuilder::GetClassSupportForNode(ZELBaseUnknown*)
 {
   return _pClassEventHandlersSupport ? _pClassEventHandlersSupport : NO_CLASS_SUPPORT();
 }

@@ -8,17 +8,26 @@
 
 #include <utility>
 
+namespace
+{
+// Null until the first call.
+ZELSYPEventHandlersSupport* s_pNoSupport = nullptr;
+ZELSYPClassEventHandlersSupport* s_pNoClassSupport = nullptr;
+} // namespace
+
 ZELSYPSupportsEventPathBuilder::~ZELSYPSupportsEventPathBuilder() = default;
 
 ZELSYPEventHandlersSupport* ZELSYPSupportsEventPathBuilder::NO_SUPPORT()
 {
-  static ZELSYPEventHandlersSupport* const s_pNoSupport = new ZELSYPEventHandlersSupport;
+  if (!s_pNoSupport)
+    s_pNoSupport = new ZELSYPEventHandlersSupport;
   return s_pNoSupport;
 }
 
 ZELSYPClassEventHandlersSupport* ZELSYPSupportsEventPathBuilder::NO_CLASS_SUPPORT()
 {
-  static ZELSYPClassEventHandlersSupport* const s_pNoClassSupport = new ZELSYPClassEventHandlersSupport;
+  if (!s_pNoClassSupport)
+    s_pNoClassSupport = new ZELSYPClassEventHandlersSupport;
   return s_pNoClassSupport;
 }
 
@@ -30,14 +39,16 @@ inline ZELSYPSupportsEventPathBuilder::Element ZELSYPSupportsEventPathBuilder::N
   return pLender && pLender->Has(i_node) ? std::make_unique<ZELSYPEventPathElt>(*pLender) : std::make_unique<ZELSYPEventPathElt>(&i_node);
 }
 
-// Inlined where it stands: it is most of what there is to do at a node that listens.
+// Inlined where it stands, for a stop that is there and for a new one: it is most of what there is to do at a node that
+// listens.
 [[gnu::always_inline]] inline void ZELSYPSupportsEventPathBuilder::AddList(Element& io_pElement, const ZELSYPEventArgs& i_args,
                                                                            ZELBaseUnknown& i_node, ZELSYPEventHandlerInfoList i_list)
 {
   if (i_list.GetSize() == 0)
     return;
-  if (!io_pElement)
-    io_pElement = NewElement(i_args, i_node);
+  if (io_pElement)
+    return io_pElement->AddList(std::move(i_list));
+  io_pElement = NewElement(i_args, i_node);
   io_pElement->AddList(std::move(i_list));
 }
 
@@ -62,9 +73,9 @@ inline ZELSYPEventPathElt* ZELSYPSupportsEventPathBuilder::BuildHeardElement(ZEL
 {
   ZELSYPEventHandlerInfoList removed;
   Element pElement;
-  if (io_classSupport._supports.GetSize() != 0 && &io_classSupport != NO_CLASS_SUPPORT())
+  if (io_classSupport._supports.GetSize() != 0 && &io_classSupport != s_pNoClassSupport)
     AddClassLists(pElement, io_args, i_node, io_classSupport, removed);
-  if (&io_support != NO_SUPPORT())
+  if (&io_support != s_pNoSupport)
     AddList(pElement, io_args, i_node, io_support.TakeList(io_args.GetEvent(), removed));
   return pElement ? pElement.release() : NO_ELEMENT();
 }
