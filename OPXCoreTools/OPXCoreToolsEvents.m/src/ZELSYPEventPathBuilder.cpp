@@ -12,6 +12,9 @@
 
 namespace
 {
+// Null until the first call of NO_ELEMENT.
+ZELSYPEventPathElt* s_pNoElement = nullptr;
+
 bool HasOrigin(ZELBaseUnknown* i_pOrigin, ZELSYPEventArgs* i_pArgs)
 {
   if (!i_pArgs->GetOrigin())
@@ -102,7 +105,8 @@ int ZELSYPEventPathBuilder::IsHeard(ZELBaseUnknown* i_pOrigin, ZELSYPEvent* i_pE
 
 ZELSYPEventPathElt* ZELSYPEventPathBuilder::NO_ELEMENT()
 {
-  static ZELSYPEventPathElt* const s_pNoElement = new ZELSYPEventPathElt(ZELBaseUnknown_var::Adopt(new ZELBaseUnknown));
+  if (!s_pNoElement)
+    s_pNoElement = new ZELSYPEventPathElt(ZELBaseUnknown_var::Adopt(new ZELBaseUnknown));
   return s_pNoElement;
 }
 
