@@ -29,7 +29,8 @@
 //
 // Tried and dropped: walking a snapshot to ask who must be removed without comparing it with the list after each answer. It
 // hid a list that a handler empties while it is asked. Stops aligned to cache lines, stops fetched before they are taken,
-// what a store found last next to the count of its node, and -O2: no difference that lasts.
+// what a store found last next to the count of its node, one test for observers and consumed arguments together (three
+// instructions less a handler), and -O2: no difference that lasts.
 //
 // What is left beside a second thread with nobody listening is one pair of locked instructions a node, since a route holds
 // its nodes while it is built.
