@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <string>
+#include <type_traits>
 
 using nlohmann::json;
 using testing::ElementsAre;
@@ -25,7 +26,7 @@ struct ModelChanged
   static constexpr const char* name = "ZELSYPModelChangedEventArgs";
   static ZELSYPEvent* GetEvent() { return ZELSYPAbstractDataSource::ModelChanged(); }
   static json GetPayload() { return transactions; }
-  static json Read(const Args& i_args) { return i_args.GetTransactions(); }
+  static decltype(auto) Read(const Args& i_args) { return i_args.GetTransactions(); }
 };
 
 struct ViewUpdated
@@ -34,7 +35,7 @@ struct ViewUpdated
   static constexpr const char* name = "ZELSYPViewUpdatedEventArgs";
   static ZELSYPEvent* GetEvent() { return ZELSYPAbstractDataSource::ViewUpdated(); }
   static json GetPayload() { return transactions; }
-  static json Read(const Args& i_args) { return i_args.GetTransactions(); }
+  static decltype(auto) Read(const Args& i_args) { return i_args.GetTransactions(); }
 };
 
 struct SelectionChanged
@@ -43,7 +44,7 @@ struct SelectionChanged
   static constexpr const char* name = "ZELSYPSelectionChangedEventArgs";
   static ZELSYPEvent* GetEvent() { return ZELSYPAbstractDataSource::SelectionChanged(); }
   static Records::SelectionChangeParameters GetPayload() { return {std::vector<std::string>{"a"}, std::vector<std::string>{"b"}}; }
-  static json Read(const Args& i_args) { return i_args.GetParameters().ComputeJSON(); }
+  static decltype(auto) Read(const Args& i_args) { return i_args.GetParameters(); }
 };
 
 json ToJSON(const json& i_value)
@@ -97,7 +98,14 @@ TYPED_TEST(DataSourceEventArgsTest, TheyKnowTheirClass)
 TYPED_TEST(DataSourceEventArgsTest, TheyCarryTheEventAndAPayload)
 {
   EXPECT_EQ(this->args.GetEvent(), TypeParam::GetEvent());
-  EXPECT_EQ(TypeParam::Read(this->args), ToJSON(TypeParam::GetPayload()));
+  EXPECT_EQ(ToJSON(TypeParam::Read(this->args)), ToJSON(TypeParam::GetPayload()));
+}
+
+TYPED_TEST(DataSourceEventArgsTest, ThePayloadTheyGiveIsTheirOwnAndCannotBeChanged)
+{
+  EXPECT_TRUE((std::is_same_v<decltype(TypeParam::Read(this->args)), const decltype(TypeParam::GetPayload())&>));
+  const auto& payload = TypeParam::Read(this->args);
+  EXPECT_EQ(&payload, &TypeParam::Read(this->args));
 }
 
 TYPED_TEST(DataSourceEventArgsTest, TheSuccessCallbackTheyGiveIsACopyThatOutlivesThem)
@@ -132,5 +140,5 @@ TYPED_TEST(DataSourceEventArgsTest, WithoutAnEventTheyReportItAndAreBuilt)
   const typename TypeParam::Args eventless(nullptr, TypeParam::GetPayload(), nullptr);
   EXPECT_THAT(failures.GetMessages(), ElementsAre("pointer i_pEvent is NULL"));
   EXPECT_EQ(eventless.GetEvent(), nullptr);
-  EXPECT_EQ(TypeParam::Read(eventless), ToJSON(TypeParam::GetPayload()));
+  EXPECT_EQ(ToJSON(TypeParam::Read(eventless)), ToJSON(TypeParam::GetPayload()));
 }

@@ -229,6 +229,15 @@ TEST_F(ZELSYPDeferredJSResultTest, MovingTakesOverTheState)
   EXPECT_EQ(moved.GetValue().value, 7);
 }
 
+TEST_F(ZELSYPDeferredJSResultTest, MovingTakesOverAFailureAndItsError)
+{
+  call.Fail();
+  EXPECT_TRUE(result.HasError());
+  ZELSYPDeferredJSResult moved(std::move(result));
+  EXPECT_TRUE(moved.HasError());
+  EXPECT_EQ(moved.GetError().name, "TypeError");
+}
+
 TEST_F(ZELSYPDeferredJSResultTest, WaitingEndsAfterTheTimeGiven)
 {
   const auto start = std::chrono::steady_clock::now();

@@ -66,6 +66,15 @@ TEST_F(ZELSYPEventArgsTest, NullOriginIsReportedAndTheOriginCanStillBeSet)
   EXPECT_EQ(_door.Get(), args.GetOrigin());
 }
 
+TEST_F(ZELSYPEventArgsTest, NullOriginIsReportedAsSuchWhenThereIsAnOriginAndThatOneStays)
+{
+  ZELSYPEventArgs args(_pOpened);
+  args.SetOrigin(_door.Get());
+  args.SetOrigin(nullptr);
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer i_pOrigin is NULL"));
+  EXPECT_EQ(_door.Get(), args.GetOrigin());
+}
+
 TEST_F(ZELSYPEventArgsTest, SecondOriginIsReportedAndTheFirstStays)
 {
   const auto other = ZELHandle<Door>::Adopt(new Door);

@@ -126,6 +126,14 @@ TEST_F(ZELSYPEventFactoryTest, SecondEventOfTheSameNameIsRefusedAndTheFirstStays
   EXPECT_EQ(1, CountReferences(pFirst));
 }
 
+TEST_F(ZELSYPEventFactoryTest, ArgumentTypeOfAnotherKindIsReportedBeforeANameThatIsTaken)
+{
+  _factory.NewDoorEvent("Opened");
+  EXPECT_EQ(nullptr, NewEvent("Opened", 0, Gate::MetaObject(), Door::MetaObject()));
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("boolean i_pArgumentType->IsAKindOf(ZELSYPEventArgs::MetaObject()) is FALSE"));
+  EXPECT_EQ("Gate", _failures.GetFailures()[0].details);
+}
+
 TEST_F(ZELSYPEventFactoryTest, TwoOwnerClassesMayUseOneName)
 {
   ZELSYPEvent* const pDoorOpened = NewEvent("Opened", 0, ZELSYPEventArgs::MetaObject(), Door::MetaObject());

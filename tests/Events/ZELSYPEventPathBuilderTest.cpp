@@ -7,6 +7,7 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -48,6 +49,14 @@ protected:
     Listen(*_leaf, "leaf");
     Listen(*_parent, "parent");
   }
+  // An event for arguments of the class DoorArgs.
+  ZELHandle<ZELSYPEvent> NewDoorEvent(ZELSYPEvent::Propagation i_propagation = ZELSYPEvent::OriginToRoot)
+  {
+    return ZELHandle<ZELSYPEvent>::Adopt(OpenFactory::MakeEvent("Door", i_propagation, DoorArgs::MetaObject(), Widget::MetaObject()));
+  }
+  std::vector<int> CountReferencesOfNodes() { return {CountReferences(_leaf), CountReferences(_parent), CountReferences(_root)}; }
+  // The builder's route from the leaf has the three as its stops, in which they all run, and holds each of them once.
+  void ExpectWholeRoute(ZELSYPEventPathBuilder& io_builder, ZELSYPEventArgs& io_args);
 
   RecordingFailureHandler _failures;
 };
@@ -126,6 +135,48 @@ private:
   }
 };
 
+// Writes over what the calls before left on the stack.
+[[gnu::noinline]] void OverwriteOldStack()
+{
+  volatile std::uintptr_t old[4096];
+  for (volatile std::uintptr_t& word : old)
+    word = 1;
+}
+
+// Builds the same route, to no end.
+void TakeDetour(ZELSYPEventArgs* i_pArgs)
+{
+  delete WidgetBuilder().BuildPath(i_pArgs);
+  OverwriteOldStack();
+}
+
+// Takes a detour before and after each stop is made.
+class DetouringBuilder : public WidgetBuilder
+{
+private:
+  ZELSYPEventPathElt* BuildElement(ZELSYPEventArgs* i_pArgs, ZELBaseUnknown* i_pNode) override
+  {
+    TakeDetour(i_pArgs);
+    ZELSYPEventPathElt* const pElt = WidgetBuilder::BuildElement(i_pArgs, i_pNode);
+    TakeDetour(i_pArgs);
+    return pElt;
+  }
+};
+
+// Throws each stop away and has it made once more.
+class WaveringBuilder : public StoreWatchingBuilder
+{
+public:
+  using StoreWatchingBuilder::StoreWatchingBuilder;
+
+private:
+  ZELSYPEventPathElt* BuildElement(ZELSYPEventArgs* i_pArgs, ZELBaseUnknown* i_pNode) override
+  {
+    delete WidgetBuilder::BuildElement(i_pArgs, i_pNode);
+    return WidgetBuilder::BuildElement(i_pArgs, i_pNode);
+  }
+};
+
 // Arguments that do not say what class they are of.
 class ClasslessArgs : public ZELSYPEventArgs
 {
@@ -163,6 +214,20 @@ std::vector<const ZELBaseUnknown*> NodesOf(const ZELSYPEventPath& i_path)
   for (int index = 0; index < i_path.GetElementCount(); ++index)
     nodes.push_back(i_path.GetElement(index)->GetNode());
   return nodes;
+}
+
+void ZELSYPEventPathBuilderTest::ExpectWholeRoute(ZELSYPEventPathBuilder& io_builder, ZELSYPEventArgs& io_args)
+{
+  ListenEverywhere();
+  io_args.SetOrigin(_leaf);
+  std::unique_ptr<ZELSYPEventPath> pPath(io_builder.BuildPath(&io_args));
+  ASSERT_NE(nullptr, pPath);
+  EXPECT_THAT(NodesOf(*pPath), ElementsAre(_leaf.Get(), _parent.Get(), _root.Get()));
+  EXPECT_THAT(CountReferencesOfNodes(), ElementsAre(3, 2, 2));
+  pPath->Dispatch(&io_args);
+  EXPECT_THAT(_log, ElementsAre("leaf", "parent", "root"));
+  pPath = nullptr;
+  EXPECT_THAT(CountReferencesOfNodes(), ElementsAre(2, 1, 1));
 }
 } // namespace
 
@@ -538,6 +603,29 @@ TEST_F(ZELSYPEventPathBuilderTest, DispatchWithoutOriginOrArgumentsIsRefused)
   EXPECT_EQ(nullptr, args.GetOrigin());
 }
 
+TEST_F(ZELSYPEventPathBuilderTest, OfOriginAndArgumentsThatAreNullTheOriginIsReported)
+{
+  EXPECT_EQ(0, ScriptedBuilder().Dispatch(nullptr, nullptr));
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer i_pOrigin is NULL"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, OriginStaysSetOnArgumentsThatAreRefusedAfterwards)
+{
+  const auto event = NewDoorEvent();
+  ZELSYPEventArgs args(event);
+  EXPECT_EQ(0, WidgetBuilder().Dispatch(_leaf, &args));
+  EXPECT_EQ(_leaf.Get(), args.GetOrigin());
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, OfAnotherOriginAndAWrongClassOfTheArgumentsTheOriginAloneIsReported)
+{
+  const auto event = NewDoorEvent();
+  ZELSYPEventArgs args(event);
+  args.SetOrigin(_parent);
+  EXPECT_EQ(0, WidgetBuilder().Dispatch(_leaf, &args));
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("boolean i_pOrigin->IsEqual(i_pArgs->GetOrigin()) is FALSE"));
+}
+
 TEST_F(ZELSYPEventPathBuilderTest, ArgumentsOfAnotherOriginAreRefusedAndNothingRuns)
 {
   ListenEverywhere();
@@ -570,12 +658,31 @@ TEST_F(ZELSYPEventPathBuilderTest, RouteOfArgumentsWithoutOriginIsRefused)
 
 TEST_F(ZELSYPEventPathBuilderTest, ArgumentsOfABaseClassAreRefused)
 {
-  ZELSYPEvent* const pDoorEvent = _factory.NewEvent("Door", ZELSYPEvent::OriginToRoot, DoorArgs::MetaObject(), Widget::MetaObject());
-  ZELSYPEventArgs args(pDoorEvent);
+  const auto event = NewDoorEvent();
+  ZELSYPEventArgs args(event);
   EXPECT_EQ(0, WidgetBuilder().Dispatch(_leaf, &args));
   EXPECT_THAT(_failures.GetMessages(),
               ElementsAre("The event expects argument of type DoorArgs but the dispatch arguments are of type ZELSYPEventArgs",
                           "pointer pPath is NULL"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, NoParentIsAskedForWithArgumentsOfAWrongClass)
+{
+  const auto event = NewDoorEvent();
+  ZELSYPEventArgs args(event);
+  ScriptedBuilder builder;
+  EXPECT_EQ(0, builder.Dispatch(_leaf, &args));
+  EXPECT_THAT(builder._askedForParents, IsEmpty());
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, OfAWrongClassAndAnUnknownPropagationTheClassAloneIsReported)
+{
+  const auto event = NewDoorEvent(static_cast<ZELSYPEvent::Propagation>(3));
+  ZELSYPEventArgs args(event);
+  args.SetOrigin(_leaf);
+  EXPECT_EQ(nullptr, WidgetBuilder().BuildPath(&args));
+  EXPECT_THAT(_failures.GetMessages(),
+              ElementsAre("The event expects argument of type DoorArgs but the dispatch arguments are of type ZELSYPEventArgs"));
 }
 
 TEST_F(ZELSYPEventPathBuilderTest, ArgumentsOfADerivedClassAreTaken)
@@ -604,6 +711,16 @@ TEST_F(ZELSYPEventPathBuilderTest, EventWithoutArgumentTypeAndArgumentsWithoutCl
   EXPECT_EQ(0, WidgetBuilder().Dispatch(_leaf, &classless));
   EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer pEventArgumentType is NULL", "pointer pPath is NULL",
                                                    "pointer pArgsType is NULL", "pointer pPath is NULL"));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, OfEventAndArgumentsWithoutClassTheEventIsReported)
+{
+  const auto event = ZELHandle<ZELSYPEvent>::Adopt(OpenFactory::MakeEvent("E", ZELSYPEvent::OriginToRoot, nullptr, Widget::MetaObject()));
+  ClasslessArgs args(event);
+  args.SetOrigin(_leaf);
+  _failures.Clear();
+  EXPECT_EQ(nullptr, WidgetBuilder().BuildPath(&args));
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer pEventArgumentType is NULL"));
 }
 
 TEST_F(ZELSYPEventPathBuilderTest, UnknownPropagationIsRefused)
@@ -636,7 +753,44 @@ TEST_F(ZELSYPEventPathBuilderTest, NodeThatGetsNoStopEndsTheRouteAndNothingRuns)
   EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer pElt is NULL", "pointer pPath is NULL"));
   EXPECT_EQ("Implementation of BuildElement returned NULL", _failures.GetFailures()[0].details);
   EXPECT_EQ(std::nullopt, _failures.GetFailures()[1].details);
-  EXPECT_EQ(1, CountReferences(_root));
+  EXPECT_THAT(CountReferencesOfNodes(), ElementsAre(2, 1, 1));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, StopsBeforeOneThatIsMissingGiveBackWhatTheyHold)
+{
+  LoggingHandler* const pHandler = Listen(*_leaf, "leaf");
+  const int held = CountReferences(pHandler);
+  ScriptedBuilder builder;
+  builder._getParent = ParentOf;
+  builder._buildElement = [&](ZELBaseUnknown* i_pNode) -> ZELSYPEventPathElt*
+  {
+    if (i_pNode == _root.Get())
+      return nullptr;
+    auto* const pElt = new ZELSYPEventPathElt(i_pNode);
+    pElt->AddList(static_cast<Widget*>(i_pNode)->_handlers.GetHandlersList(_pUp));
+    return pElt;
+  };
+  ZELSYPEventArgs args(_pUp);
+  args.SetOrigin(_leaf);
+  EXPECT_EQ(nullptr, builder.BuildPath(&args));
+  EXPECT_THAT(CountReferencesOfNodes(), ElementsAre(2, 1, 1));
+  _leaf->_handlers.RemoveHandler(_pUp, pHandler);
+  EXPECT_EQ(held - 1, CountReferences(pHandler));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, NoStopIsAskedForAfterOneThatIsMissing)
+{
+  std::vector<ZELBaseUnknown*> asked;
+  ScriptedBuilder builder;
+  builder._getParent = ParentOf;
+  builder._buildElement = [&](ZELBaseUnknown* i_pNode)
+  {
+    asked.push_back(i_pNode);
+    return i_pNode == _parent.Get() ? nullptr : ScriptedBuilder::NO_ELEMENT();
+  };
+  ZELSYPEventArgs args(_pUp);
+  EXPECT_EQ(0, builder.Dispatch(_leaf, &args));
+  EXPECT_THAT(asked, ElementsAre(_leaf.Get(), _parent.Get()));
 }
 
 TEST_F(ZELSYPEventPathBuilderTest, StopForNothingIsOneObjectWithoutListsForEver)
@@ -842,5 +996,90 @@ TEST_F(ZELSYPEventPathBuilderTest, StopsThatAreKeptHoldTheirNodesWhateverBecomes
   ASSERT_EQ(6u, builder._hoard.size());
   EXPECT_EQ(chain._leaf.Get(), builder._hoard[1]->GetNode());
   builder._hoard.clear();
+  EXPECT_EQ(1, chain.CountLiving());
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, RouteThatIsBuiltWithTheSameArgumentsWhileAStopIsBuiltLeavesTheOuterOneWhole)
+{
+  ZELSYPEventArgs args(_pUp);
+  DetouringBuilder builder;
+  ExpectWholeRoute(builder, args);
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, RouteThatIsBuiltWithTheSameArgumentsWhileAStoreIsAskedForLeavesTheOuterOneWhole)
+{
+  ZELSYPEventArgs args(_pUp);
+  StoreWatchingBuilder builder([&](ZELBaseUnknown*) { TakeDetour(&args); });
+  ExpectWholeRoute(builder, args);
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, RouteThatIsBuiltWhileAnotherOneIsHoldsItsNodesForItself)
+{
+  ListenEverywhere();
+  ZELSYPEventArgs args(_pUp);
+  std::vector<std::unique_ptr<ZELSYPEventPath>> inner;
+  StoreWatchingBuilder builder([&](ZELBaseUnknown*) { inner.emplace_back(WidgetBuilder().BuildPath(&args)); });
+  EXPECT_EQ(1, builder.Dispatch(_leaf, &args));
+  ASSERT_EQ(3u, inner.size());
+  for (const auto& pPath : inner)
+    EXPECT_THAT(NodesOf(*pPath), ElementsAre(_leaf.Get(), _parent.Get(), _root.Get()));
+  EXPECT_THAT(CountReferencesOfNodes(), ElementsAre(5, 4, 4));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, NodesThatAreGivenUpLiveUntilTheDispatchEndsAlthoughAnotherRouteIsBuiltMeanwhile)
+{
+  GivenUpChain chain;
+  for (Widget* const pWidget : {chain._leaf.Get(), chain._parent.Get(), chain._root.Get()})
+    Listen(*pWidget, "listens");
+  std::vector<int> living;
+  ZELSYPEventArgs args(_pUp);
+  StoreWatchingBuilder builder(
+      [&](ZELBaseUnknown* i_pNode)
+      {
+        chain.GiveUp(i_pNode);
+        TakeDetour(&args);
+        living.push_back(chain.CountLiving());
+      });
+  EXPECT_EQ(1, builder.Dispatch(chain._leaf, &args));
+  EXPECT_THAT(living, ElementsAre(3, 3, 3));
+  EXPECT_THAT(_log, ElementsAre("listens", "listens", "listens"));
+  EXPECT_EQ(1, chain.CountLiving());
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, StopThatIsAskedForAfterARouteWithTheSameArgumentsHoldsItsNode)
+{
+  Listen(*_leaf, "leaf");
+  ZELSYPEventArgs args(_pUp);
+  WidgetBuilder builder;
+  EXPECT_EQ(1, builder.Dispatch(_leaf, &args));
+  OverwriteOldStack();
+  const std::unique_ptr<ZELSYPEventPathElt> pStop(builder.BuildElement(&args, _leaf));
+  EXPECT_EQ(_leaf.Get(), pStop->GetNode());
+  EXPECT_EQ(3, CountReferences(_leaf));
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, StopsThatAreThrownAwayAndMadeOnceMoreLeaveTheRouteWhole)
+{
+  ZELSYPEventArgs args(_pUp);
+  WaveringBuilder builder([](ZELBaseUnknown*) {});
+  ExpectWholeRoute(builder, args);
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, NodesWhoseStopsAreMadeOnceMoreLiveUntilTheDispatchEnds)
+{
+  GivenUpChain chain;
+  for (Widget* const pWidget : {chain._leaf.Get(), chain._parent.Get(), chain._root.Get()})
+    Listen(*pWidget, "listens");
+  std::vector<int> living;
+  WaveringBuilder builder(
+      [&](ZELBaseUnknown* i_pNode)
+      {
+        chain.GiveUp(i_pNode);
+        living.push_back(chain.CountLiving());
+      });
+  ZELSYPEventArgs args(_pUp);
+  EXPECT_EQ(1, builder.Dispatch(chain._leaf, &args));
+  EXPECT_THAT(living, ElementsAre(3, 3, 3, 3, 3, 3));
+  EXPECT_THAT(_log, ElementsAre("listens", "listens", "listens"));
   EXPECT_EQ(1, chain.CountLiving());
 }

@@ -73,6 +73,14 @@ TEST_F(ZELSYPEventPathEltTest, StopWithoutNodeIsReportedAndRunsNothing)
   EXPECT_THAT(_log, IsEmpty());
 }
 
+TEST_F(ZELSYPEventPathEltTest, OfNodeAndArgumentsThatAreNullTheNodeIsReported)
+{
+  const ZELSYPEventPathElt stop(NULL_var);
+  _failures.Clear();
+  stop.Dispatch(nullptr);
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("handler _spNode is NULL_var"));
+}
+
 TEST_F(ZELSYPEventPathEltTest, NothingRunsWithoutArguments)
 {
   _stop.AddList(NewList({"handler"}));
@@ -103,6 +111,31 @@ TEST_F(ZELSYPEventPathEltTest, RegistrationWithoutHandlerEndsTheStop)
   _stop.Dispatch(&_args);
   EXPECT_THAT(_log, ElementsAre("before"));
   EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer pHandler is NULL"));
+}
+
+TEST_F(ZELSYPEventPathEltTest, RegistrationWithoutHandlerEndsTheStopOfConsumedArgumentsToo)
+{
+  ZELSYPEventHandlerInfoList list;
+  list.Add(ZELHandle<ZELSYPEventHandlerInfo>::Adopt(new ZELSYPEventHandlerInfo(nullptr, 0)));
+  list.AddHandler(Keep("after"), 1);
+  _failures.Clear();
+  _stop.AddList(list);
+  _args.Consume();
+  _stop.Dispatch(&_args);
+  EXPECT_THAT(_log, IsEmpty());
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer pHandler is NULL"));
+}
+
+TEST_F(ZELSYPEventPathEltTest, NullRegistrationEndsTheStopOfConsumedArgumentsToo)
+{
+  ZELSYPEventHandlerInfoList after;
+  after.AddHandler(Keep("after"), 1);
+  _stop.AddList(PlantedList(nullptr));
+  _stop.AddList(after);
+  _args.Consume();
+  _stop.Dispatch(&_args);
+  EXPECT_THAT(_log, IsEmpty());
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer pInfo is NULL"));
 }
 
 TEST_F(ZELSYPEventPathEltTest, ListThatAHandlerAddsToItsOwnStopStillRuns)

@@ -122,6 +122,20 @@ TEST_F(ZELSYPSupportsEventPathBuilderTest, ClassStoreThatIsNullRefusesTheDispatc
   EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer pClassSupport is NULL", "pointer pElt is NULL", "pointer pPath is NULL"));
 }
 
+TEST_F(ZELSYPSupportsEventPathBuilderTest, OfTwoStoresThatAreNullTheNodesOwnIsReported)
+{
+  _builder._pSupport = nullptr;
+  _builder._pClassSupport = nullptr;
+  EXPECT_EQ(nullptr, _builder.BuildElement(&_args, _leaf));
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer pSupport is NULL"));
+}
+
+TEST_F(ZELSYPSupportsEventPathBuilderTest, OfArgumentsAndNodeThatAreNullTheArgumentsAreReported)
+{
+  EXPECT_EQ(nullptr, _builder.BuildElement(nullptr, nullptr));
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer i_pArgs is NULL"));
+}
+
 TEST_F(ZELSYPSupportsEventPathBuilderTest, StopOfNothingIsRefused)
 {
   EXPECT_EQ(nullptr, _builder.BuildElement(nullptr, _leaf));
