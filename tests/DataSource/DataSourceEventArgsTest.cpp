@@ -105,7 +105,8 @@ TYPED_TEST(DataSourceEventArgsTest, ThePayloadTheyGiveIsTheirOwnAndCannotBeChang
 {
   EXPECT_TRUE((std::is_same_v<decltype(TypeParam::Read(this->args)), const decltype(TypeParam::GetPayload())&>));
   const auto& payload = TypeParam::Read(this->args);
-  EXPECT_EQ(&payload, &TypeParam::Read(this->args));
+  const auto& again = TypeParam::Read(this->args);
+  EXPECT_EQ(&payload, &again);
 }
 
 TYPED_TEST(DataSourceEventArgsTest, TheSuccessCallbackTheyGiveIsACopyThatOutlivesThem)

@@ -7,11 +7,13 @@
 
 #include <gmock/gmock.h>
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <stdexcept>
 
+using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Pair;
@@ -114,6 +116,27 @@ private:
     ZELSYPEventPathElt* const pElt = WidgetBuilder::BuildElement(i_pArgs, i_pNode);
     if (pElt != NO_ELEMENT())
       delete pElt;
+    return NO_ELEMENT();
+  }
+};
+
+// Throws the stops away and uses their memory for itself.
+class FrugalBuilder : public WidgetBuilder
+{
+public:
+  typedef std::array<unsigned char, sizeof(ZELSYPEventPathElt)> Memory;
+  struct Delete
+  {
+    void operator()(Memory* i_pMemory) const { ZELSYPEventPathElt::operator delete(i_pMemory); }
+  };
+  std::vector<std::unique_ptr<Memory, Delete>> _used;
+
+private:
+  ZELSYPEventPathElt* BuildElement(ZELSYPEventArgs* i_pArgs, ZELBaseUnknown* i_pNode) override
+  {
+    delete WidgetBuilder::BuildElement(i_pArgs, i_pNode);
+    _used.emplace_back(static_cast<Memory*>(ZELSYPEventPathElt::operator new(sizeof(Memory))));
+    _used.back()->fill(0xff);
     return NO_ELEMENT();
   }
 };
@@ -980,6 +1003,17 @@ TEST_F(ZELSYPEventPathBuilderTest, NodesWhoseStopsAreThrownAwayLiveUntilTheRoute
   EXPECT_THAT(living, ElementsAre(3, 3, 3));
   EXPECT_EQ(1, chain.CountLiving());
   EXPECT_THAT(_log, IsEmpty());
+}
+
+TEST_F(ZELSYPEventPathBuilderTest, MemoryOfStopsThatAreThrownAwayIsLeftAlone)
+{
+  ListenEverywhere();
+  FrugalBuilder builder;
+  ZELSYPEventArgs args(_pUp);
+  EXPECT_EQ(1, builder.Dispatch(_leaf, &args));
+  ASSERT_EQ(3u, builder._used.size());
+  for (const auto& pMemory : builder._used)
+    EXPECT_THAT(*pMemory, Each(0xff));
 }
 
 TEST_F(ZELSYPEventPathBuilderTest, StopsThatAreKeptHoldTheirNodesWhateverBecomesOfTheRoute)
