@@ -29,7 +29,7 @@ protected:
   // Puts the registration at the end, with a reference more on it; without memory nothing changes, and false.
   bool Append(ZELSYPEventHandlerInfo* i_pInfo);
 
-  ZELSYPArray<ZELSYPEventHandlerInfo*, ZELSYPRecycledBlocks> _handlers;
+  ZELSYPArray<ZELSYPEventHandlerInfo*, ZELSYPRecycledBlocks::Lasting> _handlers;
 
 private:
   // For a list of one, which most are.

@@ -2,7 +2,8 @@
 // void* pBlock = ZELSYPRecycledBlocks::Take(64); ... ZELSYPRecycledBlocks::GiveBack(pBlock);
 //
 // Each thread owns the first blocks that it takes, by powers of two and up to 4 MiB of each, and keeps those given back on
-// it until it ends. All others are the heap's again when they are given back, on whatever thread. Any thread.
+// it until it ends. All others are the heap's again when they are given back, on whatever thread: what lasts is better taken
+// from the heap at once, or it leaves fewer blocks to take and give back. Any thread.
 #ifndef ZELSYPRecycledBlocks_H
 #define ZELSYPRecycledBlocks_H
 
@@ -15,12 +16,14 @@ struct OPXCORETOOLS_EXPORT ZELSYPRecycledBlocks
   // Room for the first i_count elements of an array, beside the array (ZELSYPArray::UseRoom): GiveBack takes it for nothing.
   template <class T, int i_count>
   class Room;
+  // The same operations with blocks of the heap that nobody keeps, for what outlasts dispatches.
+  struct Lasting;
 
   // i_bytes of memory, aligned as new aligns by itself, or null when there is none.
   static void* Take(std::size_t i_bytes) noexcept { return TakeOf(KindOf(i_bytes), i_bytes); }
   // A block of i_bytes that begins with the first i_used bytes of io_block and takes its place. Null when there is no
   // memory, and io_block stands as it was. For a null io_block a new block.
-  static void* Extend(void* io_block, std::size_t i_used, std::size_t i_bytes) noexcept;
+  static void* Extend(void* io_block, std::size_t i_used, std::size_t i_bytes) noexcept { return MovedTo(Take(i_bytes), io_block, i_used); }
   // Takes a block back, on whatever thread it was taken. Null is nothing.
   static void GiveBack(void* i_pBlock) noexcept
   {
@@ -69,6 +72,14 @@ private:
   static void* TakeOf(std::size_t i_kind, std::size_t i_bytes) noexcept;
   static void* TakeFromHeap(std::size_t i_kind, std::size_t i_bytes) noexcept;
   static void Keep(Head* i_pBlock) noexcept;
+  static void* MovedTo(void* i_pNew, void* io_block, std::size_t i_used) noexcept;
+};
+
+struct ZELSYPRecycledBlocks::Lasting
+{
+  static void* Take(std::size_t i_bytes) noexcept { return TakeFromHeap(NotKept, i_bytes); }
+  static void* Extend(void* io_block, std::size_t i_used, std::size_t i_bytes) noexcept { return MovedTo(Take(i_bytes), io_block, i_used); }
+  static void GiveBack(void* i_pBlock) noexcept { ZELSYPRecycledBlocks::GiveBack(i_pBlock); }
 };
 
 template <class T, int i_count>

@@ -212,6 +212,19 @@ TEST(ZELSYPRecycledBlocksTest, ExtendedBlockKeepsItsContent)
   ZELSYPRecycledBlocks::GiveBack(pBlock);
 }
 
+TEST(ZELSYPRecycledBlocksTest, LastingBlocksComeFromTheHeapAndGoBackToIt)
+{
+  ZELSYPRecycledBlocks::GiveBack(ZELSYPRecycledBlocks::Take(100));
+  const long held = HeapRequests::GetHeld();
+  void* pBlock = ZELSYPRecycledBlocks::Lasting::Take(10);
+  std::memcpy(pBlock, "0123456789", 10);
+  pBlock = ZELSYPRecycledBlocks::Lasting::Extend(pBlock, 10, 100);
+  EXPECT_EQ(0, std::memcmp(pBlock, "0123456789", 10));
+  EXPECT_EQ(held + 1, HeapRequests::GetHeld());
+  ZELSYPRecycledBlocks::Lasting::GiveBack(pBlock);
+  EXPECT_EQ(held, HeapRequests::GetHeld());
+}
+
 TEST(ZELSYPRecycledBlocksTest, ThreadGivesWhatItKeepsToTheHeapWhenItEnds)
 {
   const long held = HeapRequests::GetHeld();

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <memory>
 #include <new>
 #include <pthread.h>
 
@@ -29,7 +30,10 @@ ZELSYPRecycledBlocks::Kept ZELSYPRecycledBlocks::Kept::s_none;
 // platform destroys the objects of a thread before it frees their memory. Whatever comes later starts anew.
 struct ZELSYPRecycledBlocks::KeptUntilThreadEnds
 {
-  KeptUntilThreadEnds() noexcept { pthread_key_create(&_key, &End); }
+  KeptUntilThreadEnds() noexcept : _hasKey(pthread_key_create(&_key, &End) == 0) {}
+
+  // False: the system would not end them.
+  bool Promises(Kept* i_pKept) const noexcept { return _hasKey && pthread_setspecific(_key, i_pKept) == 0; }
 
   static void End(void* i_pKept) noexcept
   {
@@ -44,20 +48,20 @@ struct ZELSYPRecycledBlocks::KeptUntilThreadEnds
     delete pKept;
   }
 
+private:
   pthread_key_t _key;
+  const bool _hasKey;
 };
 
-// Without memory: none.
+// None when there is no memory, or nobody to end them.
 ZELSYPRecycledBlocks::Kept* ZELSYPRecycledBlocks::Kept::OfThisThread() noexcept
 {
   static const KeptUntilThreadEnds s_ends;
   if (t_pKept != &s_none)
     return t_pKept;
-  if (Kept* const pNew = new (std::nothrow) Kept)
-  {
-    pthread_setspecific(s_ends._key, pNew);
-    t_pKept = pNew;
-  }
+  std::unique_ptr<Kept> pNew(new (std::nothrow) Kept);
+  if (pNew && s_ends.Promises(pNew.get()))
+    t_pKept = pNew.release();
   return t_pKept;
 }
 
@@ -100,14 +104,14 @@ void* ZELSYPRecycledBlocks::TakeOf(std::size_t i_kind, std::size_t i_bytes) noex
   return pBlock + 1;
 }
 
-void* ZELSYPRecycledBlocks::Extend(void* io_block, std::size_t i_used, std::size_t i_bytes) noexcept
+// Without a new block the old one stands as it was.
+void* ZELSYPRecycledBlocks::MovedTo(void* i_pNew, void* io_block, std::size_t i_used) noexcept
 {
-  void* const pBlock = Take(i_bytes);
-  if (!pBlock || !io_block)
-    return pBlock;
-  std::memcpy(pBlock, io_block, i_used);
+  if (!i_pNew || !io_block)
+    return i_pNew;
+  std::memcpy(i_pNew, io_block, i_used);
   GiveBack(io_block);
-  return pBlock;
+  return i_pNew;
 }
 
 void ZELSYPRecycledBlocks::Keep(Head* i_pBlock) noexcept
