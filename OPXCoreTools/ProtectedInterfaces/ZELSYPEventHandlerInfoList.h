@@ -66,9 +66,13 @@ private:
   // A snapshot of what AutoRemove leaves. What is taken out lives as long as io_removed, since the end of a handler may run
   // code that destroys this list.
   ZELSYPEventHandlerInfoList Prune(ZELSYPEventHandlerInfoList& io_removed);
-  // For a snapshot of i_list, most often all of which stays: 0 when it does, else how many, from the first on, are to be
-  // asked one by one, since one must be removed or changed the list.
-  int CountToAsk(const ZELSYPEventHandlerInfoList& i_list) const;
+  // For a snapshot of i_list, most often all of which stays, asked from the last to the first: 0 when it does. Else which one
+  // was asked last, from 1 on, which must be removed; or from -1 down, which stays and changed the list.
+  int FindEndOfSnapshot(const ZELSYPEventHandlerInfoList& i_list) const;
+  // AutoRemove from there down, where i_pAsked has been asked; what was taken out so far, and then all of it. Not inlined, and
+  // by value: Prune keeps all it has in registers.
+  [[gnu::noinline]] ZELSYPEventHandlerInfoList PruneFrom(int i_last, ZELSYPEventHandlerInfo* i_pAsked,
+                                                         ZELSYPEventHandlerInfoList i_removed);
   // AutoRemove of the first i_count.
   void AutoRemove(int i_count, ZELSYPEventHandlerInfoList& io_removed);
   void RemoveInto(ZELSYPEventHandlerInfoList& io_removed, int i_index, ZELSYPEventHandlerInfo* i_pInfo);

@@ -40,7 +40,7 @@ public:
   // How many registrations stand for the event, those of handlers that must be removed included. No event: "i_pEvent", and 0.
   int GetHandlersCount(ZELSYPEvent* i_pEvent) const;
   // Forgets all registrations and takes over those of i_support, which both then share until one of them changes.
-  // Replacing with itself does nothing.
+  // Replacing with itself does nothing. In a store that is being destroyed: "!_isGoing", and nothing happens.
   void ReplaceHandlers(const ZELSYPEventHandlersSupport& i_support);
 
 protected:

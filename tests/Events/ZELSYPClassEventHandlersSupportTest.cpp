@@ -100,6 +100,7 @@ TEST_F(ZELSYPClassEventHandlersSupportTest, RemovalTakesOneRegistrationOfThatCla
   LoggingHandler* const pHandler = Keep("handler");
   _classHandlers.AddClassHandler(Panel::MetaObject(), _pUp, pHandler, 0);
   EXPECT_EQ(0, _classHandlers.RemoveClassHandler(Widget::MetaObject(), _pUp, pHandler));
+  EXPECT_EQ(nullptr, _classHandlers.GetClassHandlersSupport(Widget::MetaObject()));
   EXPECT_EQ(0, _classHandlers.RemoveClassHandler(Panel::MetaObject(), _pDown, pHandler));
   EXPECT_EQ(1, _classHandlers.RemoveClassHandler(Panel::MetaObject(), _pUp, pHandler));
   EXPECT_EQ(0, _classHandlers.RemoveClassHandler(Panel::MetaObject(), _pUp, pHandler));

@@ -9,16 +9,41 @@
 
 #include <gmock/gmock.h>
 
+#include <functional>
 #include <memory>
+#include <utility>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace
 {
+// Logs each time that it is asked whether it must be removed, and then does something.
+class AskedHandler : public LoggingHandler
+{
+public:
+  using LoggingHandler::LoggingHandler;
+  int MustBeRemoved() override
+  {
+    _log.push_back(_name);
+    if (_whenAsked)
+      _whenAsked();
+    return _mustBeRemoved;
+  }
+  std::function<void()> _whenAsked;
+};
+
 class ZELSYPEventHandlersSupportTest : public testing::Test, protected RouteWorld
 {
 protected:
+  // A handler of that name in the store; this world holds it, too.
+  AskedHandler* Ask(const char* i_name)
+  {
+    auto* const pHandler = new AskedHandler(_log, i_name, nullptr);
+    _kept.push_back(ZELHandle<LoggingHandler>::Adopt(pHandler));
+    _support.AddHandler(_pUp, pHandler, 0);
+    return pHandler;
+  }
   // The names of the handlers in a list.
   static std::vector<std::string> NamesIn(const ZELSYPEventHandlerInfoList& i_list)
   {
@@ -133,6 +158,28 @@ TEST_F(ZELSYPEventHandlersSupportTest, RemovalThatMeetsANullEntryIsReported)
   support._eventHandlers.RemoveAll();
 }
 
+TEST_F(ZELSYPEventHandlersSupportTest, RemovalEndsAtANullEntryBeforeTheHandler)
+{
+  OpenSupport support;
+  support._eventHandlers.Set(_pUp, PlantedList(nullptr));
+  LoggingHandler* const pHandler = Keep("handler");
+  support._eventHandlers.Locate(_pUp)->AddHandler(pHandler, 0);
+  EXPECT_EQ(0, support.RemoveHandler(_pUp, pHandler));
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer pInfo is NULL"));
+  EXPECT_EQ(2, CountReferences(pHandler));
+  support._eventHandlers.RemoveAll();
+}
+
+TEST_F(ZELSYPEventHandlersSupportTest, AskingAboutAnUnknownEventKeepsNothingOfIt)
+{
+  OpenSupport support;
+  EXPECT_EQ(0, support.RemoveHandler(_pUp, Keep("handler")));
+  EXPECT_EQ(0, support.GetHandlersList(_pUp).GetSize());
+  EXPECT_EQ(0, support.GetHandlersCount(_pUp));
+  EXPECT_EQ(0, support._eventHandlers.GetSize());
+  EXPECT_EQ(1, CountReferences(_pUp));
+}
+
 TEST_F(ZELSYPEventHandlersSupportTest, EventIsHeldOnceFromItsFirstHandlerUntilTheStoreGoes)
 {
   {
@@ -182,6 +229,86 @@ TEST_F(ZELSYPEventHandlersSupportTest, HandlersThatMustBeRemovedAreDroppedForGoo
   EXPECT_EQ(1, CountReferences(_kept[0]));
   _kept[0]->_mustBeRemoved = _kept[2]->_mustBeRemoved = 0;
   EXPECT_THAT(Names(), ElementsAre("stays"));
+}
+
+TEST_F(ZELSYPEventHandlersSupportTest, HandlersAreAskedOnceEachFromTheLastToTheFirstWhetherTheyMustBeRemoved)
+{
+  Ask("first");
+  Ask("second")->_mustBeRemoved = 1;
+  Ask("third");
+  Ask("fourth")->_mustBeRemoved = 1;
+  EXPECT_THAT(Names(), ElementsAre("first", "third"));
+  EXPECT_THAT(_log, ElementsAre("fourth", "third", "second", "first"));
+}
+
+TEST_F(ZELSYPEventHandlersSupportTest, HandlerThatMustBeRemovedIsTakenAtItsFirstWord)
+{
+  AskedHandler* const pFickle = Ask("fickle");
+  pFickle->_whenAsked = [pFickle, times = 0]() mutable { pFickle->_mustBeRemoved = times++ == 0; };
+  EXPECT_THAT(Names(), IsEmpty());
+}
+
+TEST_F(ZELSYPEventHandlersSupportTest, HandlerThatTakesItselfOutWhenAskedDoesNotKeepTheOthersFromBeingAsked)
+{
+  Ask("first")->_mustBeRemoved = 1;
+  Ask("second");
+  AskedHandler* const pLeaving = Ask("leaving");
+  pLeaving->_whenAsked = [this, pLeaving] { _support.RemoveHandler(_pUp, pLeaving); };
+  EXPECT_THAT(Names(), ElementsAre("second"));
+  EXPECT_THAT(_log, ElementsAre("leaving", "second", "first"));
+  EXPECT_THAT(_failures.GetMessages(), IsEmpty());
+}
+
+TEST_F(ZELSYPEventHandlersSupportTest, HandlerThatTakesItselfOutAndMustBeRemovedIsReportedAndTheOthersAreAsked)
+{
+  Ask("first")->_mustBeRemoved = 1;
+  AskedHandler* const pLeaving = Ask("leaving");
+  pLeaving->_whenAsked = [this, pLeaving] { _support.RemoveHandler(_pUp, pLeaving); };
+  pLeaving->_mustBeRemoved = 1;
+  EXPECT_THAT(Names(), IsEmpty());
+  EXPECT_THAT(_log, ElementsAre("leaving", "first"));
+  ASSERT_EQ(1u, _failures.GetFailures().size());
+  EXPECT_EQ("i_index is out of range", _failures.GetFailures()[0].details);
+}
+
+TEST_F(ZELSYPEventHandlersSupportTest, HandlerThatStandsWhereOneTookItselfOutStays)
+{
+  AskedHandler* const pLeaving = Ask("leaving");
+  pLeaving->_whenAsked = [this, pLeaving] { _support.RemoveHandler(_pUp, pLeaving); };
+  pLeaving->_mustBeRemoved = 1;
+  Ask("behind");
+  EXPECT_THAT(Names(), ElementsAre("behind"));
+  EXPECT_THAT(_failures.GetMessages(), IsEmpty());
+}
+
+TEST_F(ZELSYPEventHandlersSupportTest, HandlerThatAddsAnotherOneWhenAskedFindsItInTheSameList)
+{
+  Ask("asked")->_whenAsked = [this, added = false]() mutable
+  {
+    if (!std::exchange(added, true))
+      _support.AddHandler(_pUp, Keep("added"), 0);
+  };
+  EXPECT_THAT(Names(), ElementsAre("asked", "added"));
+  EXPECT_THAT(_failures.GetMessages(), IsEmpty());
+}
+
+TEST_F(ZELSYPEventHandlersSupportTest, ListWithANullRegistrationIsAskedDownToItAndReported)
+{
+  OpenSupport support;
+  support._eventHandlers.Set(_pUp, PlantedList(nullptr));
+  EXPECT_EQ(1, support.GetHandlersList(_pUp).GetSize());
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer pInfo is NULL"));
+  support._eventHandlers.RemoveAll();
+}
+
+TEST_F(ZELSYPEventHandlersSupportTest, ListWithARegistrationWithoutHandlerIsAskedDownToItAndReported)
+{
+  OpenSupport support;
+  support._eventHandlers.Set(_pUp, PlantedList(new ZELSYPEventHandlerInfo(nullptr, 0)));
+  _failures.Clear();
+  EXPECT_EQ(1, support.GetHandlersList(_pUp).GetSize());
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("pointer pHandler is NULL"));
+  support._eventHandlers.RemoveAll();
 }
 
 TEST_F(ZELSYPEventHandlersSupportTest, ReplacementTakesOverEveryListAndForgetsItsOwn)
@@ -316,6 +443,20 @@ TEST_F(ZELSYPEventHandlersSupportTest, HandlerThatIsPrunedMayDestroyItsStore)
   EXPECT_THAT(NamesIn(pSupport->GetHandlersList(_pUp)), ElementsAre("stays"));
   EXPECT_EQ(nullptr, pSupport);
   EXPECT_EQ(1, CountReferences(_pUp));
+}
+
+TEST_F(ZELSYPEventHandlersSupportTest, HandlerThatDiesWithTheStoreCannotReplaceItsHandlers)
+{
+  ZELSYPEventHandlersSupport other;
+  other.AddHandler(_pDown, Keep("other"), 0);
+  {
+    ZELSYPEventHandlersSupport support;
+    ZELSYPEventHandler* const pDying = new LastWords([&] { support.ReplaceHandlers(other); });
+    support.AddHandler(_pUp, pDying, 0);
+    pDying->Release();
+  }
+  EXPECT_THAT(_failures.GetMessages(), ElementsAre("boolean !_isGoing is FALSE"));
+  EXPECT_EQ(2, CountReferences(_pDown));
 }
 
 TEST_F(ZELSYPEventHandlersSupportTest, HandlerThatDiesWithTheStoreCannotAddAnotherOne)

@@ -4,13 +4,23 @@
 #include "ZELSYPEventHandler.h"
 #include "ZELSYPEventHandlerInfo.h"
 
+#include <cstdlib>
 #include <new>
+#include <utility>
 
 namespace
 {
 bool Stays(const ZELSYPEventHandlerInfo* i_pInfo)
 {
   return i_pInfo && i_pInfo->GetHandler() && i_pInfo->GetHandler()->MustBeRemoved() == 0;
+}
+
+bool HasHandler(const ZELSYPEventHandlerInfo* pInfo)
+{
+  if (!ZELSYP_CHECK_POINTER(pInfo))
+    return false;
+  const ZELSYPEventHandler* const pHandler = pInfo->GetHandler();
+  return ZELSYP_CHECK_POINTER(pHandler);
 }
 } // namespace
 
@@ -59,21 +69,38 @@ void ZELSYPEventHandlerInfoList::AutoRemove()
 ZELSYPEventHandlerInfoList ZELSYPEventHandlerInfoList::Prune(ZELSYPEventHandlerInfoList& io_removed)
 {
   ZELSYPEventHandlerInfoList asked(*this);
-  const int count = asked.CountToAsk(*this);
-  if (__builtin_expect(count == 0, true))
+  const int last = asked.FindEndOfSnapshot(*this);
+  if (__builtin_expect(last == 0, true))
     return asked;
-  AutoRemove(count, io_removed);
+  io_removed = PruneFrom(last, asked.begin()[std::abs(last) - 1], std::move(io_removed));
   return *this;
 }
 
-int ZELSYPEventHandlerInfoList::CountToAsk(const ZELSYPEventHandlerInfoList& i_list) const
+int ZELSYPEventHandlerInfoList::FindEndOfSnapshot(const ZELSYPEventHandlerInfoList& i_list) const
 {
   const ZELSYPEventHandlerInfoListData* const pAsked = _pSharedData;
   ZELSYPEventHandlerInfo* const* const pBegin = begin();
   for (ZELSYPEventHandlerInfo* const* pEach = end(); pEach != pBegin; --pEach)
-    if (__builtin_expect(!Stays(pEach[-1]) || i_list._pSharedData != pAsked, false))
+  {
+    if (__builtin_expect(!Stays(pEach[-1]), false))
       return static_cast<int>(pEach - pBegin);
+    if (__builtin_expect(i_list._pSharedData != pAsked, false))
+      return -static_cast<int>(pEach - pBegin);
+  }
   return 0;
+}
+
+ZELSYPEventHandlerInfoList ZELSYPEventHandlerInfoList::PruneFrom(int i_last, ZELSYPEventHandlerInfo* i_pAsked,
+                                                                 ZELSYPEventHandlerInfoList i_removed)
+{
+  const bool mustGo = i_last > 0;
+  if (mustGo && !HasHandler(i_pAsked))
+    return i_removed;
+  const int index = std::abs(i_last) - 1;
+  if (mustGo)
+    RemoveInto(i_removed, index, i_pAsked);
+  AutoRemove(index, i_removed);
+  return i_removed;
 }
 
 void ZELSYPEventHandlerInfoList::AutoRemove(int i_count, ZELSYPEventHandlerInfoList& io_removed)
@@ -81,20 +108,18 @@ void ZELSYPEventHandlerInfoList::AutoRemove(int i_count, ZELSYPEventHandlerInfoL
   for (int index = i_count - 1; index >= 0 && _pSharedData; --index)
   {
     ZELSYPEventHandlerInfo* const pInfo = _pSharedData->_handlers[index];
-    if (!ZELSYP_CHECK_POINTER(pInfo))
+    if (!HasHandler(pInfo))
       return;
-    ZELSYPEventHandler* const pHandler = pInfo->GetHandler();
-    if (!ZELSYP_CHECK_POINTER(pHandler))
-      return;
-    if (pHandler->MustBeRemoved() != 0)
+    if (pInfo->GetHandler()->MustBeRemoved() != 0)
       RemoveInto(io_removed, index, pInfo);
   }
 }
 
-// Without memory to hold it there, the registration stays.
+// Another registration stands there when the handler has taken itself out; it stays, as one does that there is no memory for
+// to hold it until the walk is over.
 void ZELSYPEventHandlerInfoList::RemoveInto(ZELSYPEventHandlerInfoList& io_removed, int i_index, ZELSYPEventHandlerInfo* i_pInfo)
 {
-  if (i_index >= GetSize() || begin()[i_index] != i_pInfo)
+  if (!HasInfoAt(i_index) || begin()[i_index] != i_pInfo)
     return;
   const int held = io_removed.GetSize();
   io_removed.Add(i_pInfo);

@@ -89,7 +89,7 @@ int ZELSYPEventHandlersSupport::GetHandlersCount(ZELSYPEvent* i_pEvent) const
 // What is forgotten goes last: a handler that dies may change or destroy either store.
 void ZELSYPEventHandlersSupport::ReplaceHandlers(const ZELSYPEventHandlersSupport& i_support)
 {
-  if (this == &i_support)
+  if (this == &i_support || !ZELSYP_CHECK_TRUE(!_isGoing))
     return;
   Lists forgotten;
   Clear(forgotten);

@@ -140,9 +140,9 @@ inline void ZELSYPEventPathBuilder::AddChain(Nodes& io_list, ZELSYPEventArgs& i_
 
 bool ZELSYPEventPathBuilder::BuildElements(ZELSYPEventPath& io_path, ZELSYPEventArgs& io_args, Nodes& io_nodes)
 {
-  ZELSYPRouteNode node(io_args._pRouteNode);
   io_path.ReserveElements(io_nodes.GetLength());
   const ZELSYPEventPathElt* const pNoElement = NO_ELEMENT();
+  ZELSYPRouteNode node(io_args._pRouteNode);
   for (ZELBaseUnknown_var& spNode : io_nodes)
   {
     if (!ZELSYP_CHECK_HANDLER(spNode))
