@@ -3,6 +3,7 @@ import argparse
 import os
 import pathlib
 import re
+import shutil
 import subprocess
 import sys
 import time
@@ -11,11 +12,17 @@ import xml.etree.ElementTree as ElementTree
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 PRESETS = ["gcc", "clang", "asan", "tsan", "windows", "coverage"]
 LINT = "lint"
+# Their programs take long or never end: they are compiled and not run.
+BUILT_ONLY = ["benchmark", "fuzz"]
+STEPS = [*PRESETS, LINT, *BUILT_ONLY]
+# The programs without which a step is not run.
+NEEDS = {"gcc": ["g++"], "clang": ["clang++"], "asan": ["clang++"], "tsan": ["clang++"], "coverage": ["g++", "gcovr"],
+         "windows": ["x86_64-w64-mingw32-g++-posix", "/usr/lib/wine/wine64"], LINT: ["clang++", "clang-format", "clang-tidy"],
+         "benchmark": ["g++"], "fuzz": ["clang++"]}
 # The least share of lines of OPXCoreTools/ that the tests must run, in percent.
 COVERAGE_FLOOR = 97
-# The coverage counts OPXCoreTools/ alone: these programs test it, the others would only run it.
-COVERING = ["Checks", "SharedData", "FilePaths", "TreeRecords", "Events", "EventsWithoutMemory", "DispatchMemory", "EventTools",
-            "DataSource"]
+# The kinds of tests that are no test program, and the target that one needs.
+TARGETS = {"Example": "{}", "Fuzz": "{}_corpus", "House": "OPXTreeBridge", "MustNotCompile": "OPXTreeBridge"}
 CORES = os.cpu_count() or 1
 # Lines of cmake and ninja that tell how far they are, not what went wrong.
 PROGRESS = re.compile(r"^(\[\d+/\d+\]|-- ).*\n", re.MULTILINE)
@@ -23,8 +30,8 @@ PROGRESS = re.compile(r"^(\[\d+/\d+\]|-- ).*\n", re.MULTILINE)
 
 def parse_arguments():
     parser = argparse.ArgumentParser(prog="tools/test", description="Builds and runs the tests.")
-    parser.add_argument("presets", nargs="*", metavar="PRESET", choices=[[], *PRESETS, LINT],
-                        help=f"of {', '.join(PRESETS)}, {LINT}; all of them when none is given")
+    parser.add_argument("presets", nargs="*", metavar="PRESET", choices=[[], *STEPS],
+                        help=f"of {', '.join(STEPS)}; all of them when none is given")
     parser.add_argument("--test", metavar="NAME",
                         help="only this test program (Checks), or only the cases that match this GoogleTest filter (*Array*)")
     return parser.parse_args()
@@ -32,6 +39,10 @@ def parse_arguments():
 
 class Failure(Exception):
     """A step that ended badly; its text is what a person needs to see."""
+
+
+class NoSuchTest(Exception):
+    """Nothing of a preset is what --test names."""
 
 
 def run(command, **options):
@@ -52,44 +63,68 @@ def counts_coverage(preset, name):
     return preset == "coverage" and name is None
 
 
-def build(preset, name):
-    targets = ["--target", *(f"{program}_tests" for program in COVERING)] if counts_coverage(preset, name) else []
-    require(["cmake", "--preset", preset, "-DOPX_WARNINGS_AS_ERRORS=ON"])
-    require(["cmake", "--build", "--preset", preset, *targets, "--", "-k", "0", f"-j{CORES}"])
+def build(preset, *targets):
+    chosen = ["--target", *targets] if targets else []
+    require(["cmake", "--build", "--preset", preset, *chosen, "--", "-k", "0", f"-j{CORES}"])
 
 
-def select(preset, folder, name):
-    """The ctest arguments and the environment that choose what --test names."""
+def list_tests(preset, *label):
+    return re.findall(r"Test +#\d+: (\S+)", require(["ctest", "--test-dir", ROOT / "build" / preset, "-N", *label]))
+
+
+def target_of(test):
+    """What must be built before a test runs."""
+    kind, _, rest = test.rpartition(".")
+    return TARGETS[kind].format(rest) if kind else f"{test}_tests"
+
+
+def may_hold(program, pattern):
+    """Whether the sources of a test program have the words of a GoogleTest filter: without, none of its cases matches."""
+    text = "".join(path.read_text() for path in (ROOT / "tests" / program).rglob("*.cpp"))
+    return all(word in text for word in re.findall(r"[A-Za-z_]\w*", pattern))
+
+
+def holders(preset, name):
+    """The test programs that may hold cases of the filter; what stands after a minus takes cases away."""
+    patterns = name.split("-")[0].split(":")
+    return [program for program in list_tests(preset, "-L", "^cases$") if any(may_hold(program, pattern) for pattern in patterns)]
+
+
+def select(preset, name):
+    """The tests to run, none for all, and the environment that chooses the cases that --test names."""
     if counts_coverage(preset, name):
-        return ["-R", f"^({'|'.join(COVERING)})$"], {}
+        return list_tests(preset, "-L", "^covering$"), {}
     if name is None:
         return [], {}
-    listed = re.findall(r"Test +#\d+: (\S+)", require(["ctest", "--test-dir", folder, "-N"]))
-    if name in listed:
-        return ["-R", f"^{re.escape(name)}$"], {}
-    return ["-L", "^cases$"], {"GTEST_FILTER": name}
+    if name in list_tests(preset):
+        return [name], {}
+    found = holders(preset, name)
+    if not found:
+        raise NoSuchTest
+    return found, {"GTEST_FILTER": name}
 
 
 def count_cases(results):
-    """Passed and failed cases in the file that one test program wrote."""
-    suites = ElementTree.parse(results).getroot()
-    cases = [case for case in suites.iter("testcase") if case.get("status") == "run" and case.get("result") != "skipped"]
+    """Passed, failed and skipped cases in the file that one test program wrote."""
+    cases = [case for case in ElementTree.parse(results).getroot().iter("testcase") if case.get("status") == "run"]
+    skipped = sum(1 for case in cases if case.get("result") == "skipped")
     failed = sum(1 for case in cases if case.find("failure") is not None)
-    return len(cases) - failed, failed
+    return len(cases) - failed - skipped, failed, skipped
 
 
 def count(folder):
     """Sums the cases of each test program and prints what failed; a test without cases, or that crashed, counts as one."""
-    passed = failed = 0
+    passed = failed = skipped = 0
     for test in ElementTree.parse(folder / "results" / "ctest.junit").getroot().iter("testcase"):
         good = test.get("status") == "run"
         if not good:
             print(f"--- {test.get('name')} failed\n{test.findtext('system-out')}")
         cases = folder / "results" / f"{test.get('name')}.xml"
-        counted = count_cases(cases) if cases.exists() and cases.stat().st_size else (int(good), 0)
+        counted = count_cases(cases) if cases.exists() and cases.stat().st_size else (int(good), 0, 0)
         passed += counted[0]
         failed += counted[1] if good else max(counted[1], 1)
-    return passed, failed
+        skipped += counted[2]
+    return passed, failed, skipped
 
 
 def launcher(preset):
@@ -98,25 +133,25 @@ def launcher(preset):
     return fixed if preset == "tsan" and run([*fixed, "true"])[0] else []
 
 
-def run_tests(preset, name):
+def run_tests(preset, tests, environment):
     folder = ROOT / "build" / preset
     for old in [*(folder / "results").glob("*"), *(folder.rglob("*.gcda") if preset == "coverage" else [])]:
         old.unlink()
     (folder / "results").mkdir(exist_ok=True)
-    selection, environment = select(preset, folder, name)
+    selection = ["-R", f"^({'|'.join(map(re.escape, tests))})$"] if tests else []
     succeeded, _ = run([*launcher(preset), "ctest", "--preset", preset, f"-j{CORES}", "--output-junit", folder / "results" / "ctest.junit", *selection],
-                            env={**os.environ, **environment})
-    passed, failed = count(folder)
-    return passed, failed if succeeded else max(failed, 1)
+                       env={**os.environ, **environment})
+    passed, failed, skipped = count(folder)
+    return passed, failed if succeeded else max(failed, 1), skipped
 
 
-def check_coverage(folder):
+def check_coverage(folder, programs):
     """Writes the report; answers whether the floor is reached, and the line that sums it up."""
     report = folder / "coverage"
     report.mkdir(exist_ok=True)
     # What was built for nothing else: notes that other programs left tell of sources as they were. And one worker: gcovr
     # waits for ever when one of several fails.
-    objects = [folder / "OPXCoreTools", *(folder / "tests" / program for program in COVERING)]
+    objects = [folder / "OPXCoreTools", *(folder / "tests" / program for program in programs)]
     output = require(["gcovr", "--root", ROOT, "--filter", f"{ROOT}/OPXCoreTools/", "--object-directory", folder, *objects, "-j", "1",
                       "--txt", report / "coverage.txt", "--html-details", report / "index.html",
                       "--json-summary", report / "summary.json", "--json-summary-pretty", "--print-summary"])
@@ -128,35 +163,53 @@ def check_coverage(folder):
 
 
 def test_preset(preset, name):
-    if preset == LINT:
-        print(require([ROOT / "tools" / "lint", "--all"]), end="")
-        return 1, 0, ""
-    build(preset, name)
-    passed, failed = run_tests(preset, name)
+    tests, environment = select(preset, name)
+    build(preset, *map(target_of, tests))
+    passed, failed, skipped = run_tests(preset, tests, environment)
+    if not passed + failed + skipped:
+        raise NoSuchTest
     if not counts_coverage(preset, name):
-        return passed, failed, ""
-    enough, note = check_coverage(ROOT / "build" / preset)
-    return passed + enough, failed + (not enough), note
+        return passed, failed, skipped, ""
+    enough, note = check_coverage(ROOT / "build" / preset, tests)
+    return passed + enough, failed + (not enough), skipped, note
 
 
-def try_preset(preset, name):
-    """Tests one preset and prints its line; what went wrong outside a test counts as one failure."""
+def take_step(step, name):
+    """Passed, failed and skipped cases of one preset, or of what counts as one case, and a note."""
+    if step == LINT:
+        print(require([ROOT / "tools" / "lint", "--all"]), end="")
+        return 1, 0, 0, ""
+    require(["cmake", "--preset", step, "-DOPX_WARNINGS_AS_ERRORS=ON"])
+    if step in BUILT_ONLY:
+        build(step)
+        return 1, 0, 0, "built only"
+    return test_preset(step, name)
+
+
+def try_step(step, name):
+    """Takes one step and prints its line; one that is not run, or went wrong outside a test, counts as one failure."""
+    missing = [program for program in NEEDS[step] if not shutil.which(program)]
+    if missing:
+        print(f"{step:9} not run: {', '.join(missing)} missing", flush=True)
+        return 0, 1, 0
     start = time.monotonic()
     try:
-        passed, failed, note = test_preset(preset, name)
+        passed, failed, skipped, note = take_step(step, name)
+    except NoSuchTest:
+        passed, failed, skipped, note = 0, 0, 0, f"no such test: {name}"
     except Failure as failure:
         print(failure)
-        passed, failed, note = 0, 1, "stopped"
-    print(f"{preset:9} {passed:5} passed {failed:3} failed {time.monotonic() - start:6.0f} s  {note}".rstrip(), flush=True)
-    return passed, failed
+        passed, failed, skipped, note = 0, 1, 0, "stopped"
+    print(f"{step:9} {passed:5} passed {failed:3} failed {skipped:3} skipped {time.monotonic() - start:6.0f} s  {note}".rstrip(), flush=True)
+    return passed, failed, skipped
 
 
 def main():
     arguments = parse_arguments()
-    presets = arguments.presets or [*PRESETS, *([] if arguments.test else [LINT])]
-    results = [try_preset(preset, arguments.test) for preset in presets]
-    passed, failed = (sum(column) for column in zip(*results))
-    print(f"{passed} passed, {failed} failed")
+    steps = arguments.presets or (PRESETS if arguments.test else STEPS)
+    results = [try_step(step, arguments.test) for step in steps]
+    passed, failed, skipped = (sum(column) for column in zip(*results))
+    print(f"{passed} passed, {failed} failed, {skipped} skipped")
     return 0 if passed and not failed else 1
 
 
