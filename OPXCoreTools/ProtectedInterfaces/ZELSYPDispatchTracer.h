@@ -17,6 +17,7 @@
 
 #include <functional>
 #include <memory>
+#include <nlohmann/json.hpp>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -28,9 +29,11 @@ public:
   {
     // runs Door.Opened at Door@0x5581, class handler of Furniture, position 1: Bell@0x5582
     // runs Door.Opened at Door@0x5581, instance handler, position 0: Bell@0x5583
+    // Names stand as they are. An event whose owner class is null is told as one of "no class".
     Text,
     // {"step":"runs","event":"Door.Opened","node":"Door@0x5581","list":0,"class":"Furniture","position":1,"handler":"Bell@0x5582"}
     // {"step":"runs","event":"Door.Opened","node":"Door@0x5581","list":1,"class":null,"position":0,"handler":"Bell@0x5583"}
+    // Names are escaped; what is not UTF-8 in them is replaced.
     JSON
   };
 
@@ -87,29 +90,35 @@ private:
          << i_step._index << ": " << NameOf(i_step._info.GetHandler());
     return line.str();
   }
-  // The names of events and classes are identifiers: nothing in them needs an escape.
+  // A name may hold anything: a factory that makes events by itself may give them any.
   static std::string AsJSON(const char* i_what, const Step& i_step)
   {
-    std::ostringstream line;
-    line << R"({"step":")" << i_what << R"(","event":")" << NameOfEvent(i_step) << R"(","node":")" << NameOf(i_step._stop.GetNode())
-         << R"(","list":)" << i_step._list << R"(,"class":)" << ClassAsJSON(i_step) << R"(,"position":)" << i_step._index
-         << R"(,"handler":")" << NameOf(i_step._info.GetHandler()) << R"("})";
-    return line.str();
+    const nlohmann::ordered_json line{{"step", i_what},
+                                      {"event", NameOfEvent(i_step)},
+                                      {"node", NameOf(i_step._stop.GetNode())},
+                                      {"list", i_step._list},
+                                      {"class", ClassAsJSON(i_step)},
+                                      {"position", i_step._index},
+                                      {"handler", NameOf(i_step._info.GetHandler())}};
+    return line.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
   }
   static std::string NameOfEvent(const Step& i_step)
   {
     const ZELSYPEvent* const pEvent = i_step._args.GetEvent();
-    return pEvent ? std::string(pEvent->GetOwnerClass()->GetName()) + "." + pEvent->GetName() : "no event";
+    if (!pEvent)
+      return "no event";
+    const ZELMetaClass* const pOwner = pEvent->GetOwnerClass();
+    return std::string(pOwner ? pOwner->GetName() : "no class") + "." + pEvent->GetName();
   }
   static std::string KindOf(const Step& i_step)
   {
     const ZELMetaClass* const pClass = i_step._info.GetRegisteredClass();
     return pClass ? std::string("class handler of ") + pClass->GetName() : "instance handler";
   }
-  static std::string ClassAsJSON(const Step& i_step)
+  static nlohmann::ordered_json ClassAsJSON(const Step& i_step)
   {
     const ZELMetaClass* const pClass = i_step._info.GetRegisteredClass();
-    return pClass ? std::string("\"") + pClass->GetName() + '"' : "null";
+    return pClass ? pClass->GetName() : nlohmann::ordered_json();
   }
   static std::string NameOf(const ZELBaseUnknown* i_pObject)
   {

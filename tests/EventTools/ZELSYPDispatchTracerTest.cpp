@@ -1,6 +1,8 @@
 #include "ZELSYPDispatchTracer.h"
 
 #include "EventWorld.h"
+#include "RecordingFailureHandler.h"
+#include "ZELSYPEventFactory.h"
 #include "ZELSYPSingleEventPathBuilder.h"
 #include "ZELSYPSubscribe.h"
 
@@ -21,8 +23,36 @@ class LoudListener : public Listener
 };
 ZELImplementClass(LoudListener, Listener, EventTools_tests);
 
+// Its objects call themselves by another name.
+class QuotedListener : public Listener
+{
+  ZELDeclareClass;
+
+public:
+  const char* IsA() const override { return "Listener \"two\""; }
+};
+ZELImplementClass(QuotedListener, Listener, EventTools_tests);
+
 namespace
 {
+// Makes events that NewEvent refuses, with a report.
+class BadFactory : public ZELSYPEventFactory
+{
+public:
+  static auto Make(const char* i_name, ZELMetaClass* i_pOwner)
+  {
+    return ZELHandle<ZELSYPEvent>::Adopt(MakeEvent(i_name, ZELSYPEvent::NoPropagation, ZELSYPEventArgs::MetaObject(), i_pOwner));
+  }
+};
+
+ZELMetaClass* QuotedRecord()
+{
+  static ZELMetaClass record(
+      "Box<'\"'>", "EventTools_tests", ZELClassId(), [] { return Listener::MetaObject(); },
+      [](ZELBaseUnknown*) -> void* { return nullptr; }, []() -> ZELBaseUnknown* { return nullptr; });
+  return &record;
+}
+
 void Consume(ZELSYPEventArgs* i_pArgs)
 {
   i_pArgs->Consume();
@@ -59,6 +89,19 @@ protected:
   void When(ZELSYPEvent* i_pEvent, Callable i_callable)
   {
     listener.AddHandler(i_pEvent, ZELSYPMakeHandler(i_callable), 0);
+  }
+
+  // What is written, in both formats, of an event that one handler hears, which was registered for a class of any name.
+  void TraceBoth(const ZELHandle<ZELSYPEvent>& i_spEvent, Listener& io_listener)
+  {
+    ZELSYPClassEventHandlersSupport ofClasses;
+    ofClasses.AddClassHandler(QuotedRecord(), i_spEvent, runs.Note("handler"), 0);
+    ZELSYPEventHandlersSupport own;
+    own.ReplaceHandlers(*ofClasses.GetClassHandlersSupport(QuotedRecord()));
+    const ZELSYPDispatchTracer json(Writing(), ZELSYPDispatchTracer::Format::JSON);
+    const ZELSYPDispatchTracer text(Writing());
+    ZELSYPEventArgs args(i_spEvent);
+    ZELSYPSingleEventPathBuilder(&own, nullptr).Dispatch(&io_listener, &args);
   }
 
   std::vector<std::string> lines;
@@ -257,4 +300,34 @@ TEST_F(ZELSYPDispatchTracerTest, WritesThatThereIsNoEventWhereTheArgumentsHaveNo
           R"({"step":"runs","event":"no event","node":"Listener","list":0,"class":null,"position":0,"handler":"ZELSYPEventHandler"})",
           "runs no event at Listener, instance handler, position 0: ZELSYPEventHandler"));
   EXPECT_THAT(runs.Take(), ElementsAre("handler"));
+}
+
+TEST_F(ZELSYPDispatchTracerTest, TellsAnEventWithoutAnOwnerAsOneOfNoClass)
+{
+  const RecordingFailureHandler refused;
+  TraceBoth(BadFactory::Make("Opened", nullptr), listener);
+  ASSERT_THAT(lines, SizeIs(2));
+  EXPECT_EQ(lines[0], "runs no class.Opened at Listener, class handler of Box<'\"'>, position 0: ZELSYPEventHandler");
+  EXPECT_EQ(nlohmann::json::parse(lines[1])["event"], "no class.Opened");
+}
+
+TEST_F(ZELSYPDispatchTracerTest, TellsAnEventWithoutANameByItsOwner)
+{
+  const RecordingFailureHandler refused;
+  TraceBoth(BadFactory::Make(nullptr, Listener::MetaObject()), listener);
+  ASSERT_THAT(lines, SizeIs(2));
+  EXPECT_EQ(lines[0], "runs Listener. at Listener, class handler of Box<'\"'>, position 0: ZELSYPEventHandler");
+  EXPECT_EQ(nlohmann::json::parse(lines[1])["event"], "Listener.");
+}
+
+TEST_F(ZELSYPDispatchTracerTest, EscapesInJSONWhateverANameHolds)
+{
+  const RecordingFailureHandler refused;
+  QuotedListener quoted;
+  TraceBoth(BadFactory::Make("a\"b\\\n\xFF", QuotedRecord()), quoted);
+  ASSERT_THAT(lines, SizeIs(2));
+  EXPECT_EQ(lines[0], "runs Box<'\"'>.a\"b\\\n\xFF at Listener \"two\", class handler of Box<'\"'>, position 0: ZELSYPEventHandler");
+  EXPECT_EQ(lines[1], R"({"step":"runs","event":"Box<'\"'>.a\"b\\\n)"
+                      "\xEF\xBF\xBD"
+                      R"(","node":"Listener \"two\"","list":0,"class":"Box<'\"'>","position":0,"handler":"ZELSYPEventHandler"})");
 }
