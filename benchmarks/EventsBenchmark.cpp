@@ -35,22 +35,9 @@
 // What is left beside a second thread with nobody listening is one pair of locked instructions a node, since a route holds
 // its nodes while it is built.
 #include "Events/EventsCases.h"
-
-#if __has_include(<sys/single_threaded.h>)
-#include <sys/single_threaded.h>
-#endif
-
-#include <cstdio>
+#include "Threads/RunWithThreads.h"
 
 int main(int i_argc, char** i_argv)
 {
-  const int result = RunEventsBenchmark(i_argc, i_argv, "");
-#if __has_include(<sys/single_threaded.h>)
-  if (!__libc_single_threaded)
-  {
-    std::fprintf(stderr, "a contender started a thread: these are not the figures of a process with one thread\n");
-    return 1;
-  }
-#endif
-  return result;
+  return RunWithOneThread(i_argc, i_argv, RegisterEvents);
 }

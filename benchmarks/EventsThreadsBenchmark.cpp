@@ -1,15 +1,8 @@
 // The cases of EventsBenchmark.cpp while a second thread lives, asleep, so that reference counts take locked instructions.
 #include "Events/EventsCases.h"
-
-#include <future>
-#include <thread>
+#include "Threads/RunWithThreads.h"
 
 int main(int i_argc, char** i_argv)
 {
-  std::promise<void> end;
-  std::thread sleeper([&end] { end.get_future().wait(); });
-  const int result = RunEventsBenchmark(i_argc, i_argv, "/Threads");
-  end.set_value();
-  sleeper.join();
-  return result;
+  return RunBesideSecondThread(i_argc, i_argv, RegisterEvents);
 }

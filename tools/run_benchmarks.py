@@ -44,7 +44,7 @@ def measure(program):
     print(f"{program.name} ...", file=sys.stderr)
     subprocess.run([program, "--benchmark_enable_random_interleaving=true", "--benchmark_repetitions=7", "--benchmark_min_time=0.05",
                     "--benchmark_report_aggregates_only=true", "--benchmark_out_format=json", f"--benchmark_out={results}"],
-                   check=True, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)
+                   check=True, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, env={**os.environ, "G_SLICE": "always-malloc"})
     medians = [run for run in json.loads(results.read_text())["benchmarks"] if run.get("aggregate_name") == "median"]
     return {run["run_name"]: figure(run) for run in medians}
 

@@ -14,7 +14,7 @@ void AnnounceMissing(const char* i_peer)
   benchmark::AddCustomContext(i_peer, "not on this machine, not measured");
 }
 
-int RunEventsBenchmark(int i_argc, char** i_argv, const std::string& i_state)
+void RegisterEvents(const std::string& i_state)
 {
   RegisterProject(i_state);
   RegisterHandWritten(i_state);
@@ -22,10 +22,4 @@ int RunEventsBenchmark(int i_argc, char** i_argv, const std::string& i_state)
   RegisterQt(i_state);
   RegisterSigc(i_state);
   RegisterGSignal(i_state);
-  benchmark::Initialize(&i_argc, i_argv);
-  if (benchmark::ReportUnrecognizedArguments(i_argc, i_argv))
-    return 1;
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  return 0;
 }

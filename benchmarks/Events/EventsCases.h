@@ -42,8 +42,8 @@ void RegisterGSignal(const std::string& i_state);
 // Says in the program's output that a peer is missing.
 void AnnounceMissing(const char* i_peer);
 
-// Registers and runs all; what main() answers.
-int RunEventsBenchmark(int i_argc, char** i_argv, const std::string& i_state);
+// All of them.
+void RegisterEvents(const std::string& i_state);
 
 struct RaiseCase
 {

@@ -61,15 +61,10 @@ void Register(const std::string& i_contender, const std::string& i_state, void (
 }
 } // namespace
 
-int RunRefCountingBenchmark(int i_argc, char** i_argv, const std::string& i_state)
+void RegisterRefCounting(const std::string& i_state)
 {
   Register("Project", i_state, &AddRefRelease<Project>);
 #if OPX_PEER_BOOST
   Register("boost::intrusive_ptr", i_state, &AddRefRelease<Boost>);
 #endif
-  benchmark::Initialize(&i_argc, i_argv);
-  if (benchmark::ReportUnrecognizedArguments(i_argc, i_argv))
-    return 1;
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
 }

@@ -1,11 +1,11 @@
 // The cases of RefCountingBenchmark.cpp, for the two programs that run them.
-// return RunRefCountingBenchmark(argc, argv, "/Threads");
+// return RunBesideSecondThread(argc, argv, RegisterRefCounting);
 #ifndef RefCountingCases_H
 #define RefCountingCases_H
 
 #include <string>
 
-// What main() is to answer. i_state goes to the end of each case's name.
-int RunRefCountingBenchmark(int i_argc, char** i_argv, const std::string& i_state);
+// i_state goes to the end of each case's name.
+void RegisterRefCounting(const std::string& i_state);
 
 #endif
