@@ -1,14 +1,16 @@
 """Builds the benchmark preset, runs its programs, and makes one table of medians and ratios against the targets.
 
 A benchmark is named Case/Project or Case/<peer>, a size may follow; benchmarks/targets.json gives each case its peer and
-the ratio to reach, or several of them: {"Case/1000": [{"peer": "std::vector", "ratio": 1.2}]}. A benchmark that sets the
-counter bytes_each is measured by it, and not by its time.
+the ratio to reach, or several of them: {"Case/1000": [{"peer": "std::vector", "ratio": 1.2}]}; {"below": 60000000} is a
+target without a peer. benchmarks/topics.json says what one operation of a program's cases is. A benchmark that sets the
+counter bytes_each is measured by it, and not by its time. A benchmark that fails makes this program fail, too.
 """
 import datetime
 import json
 import os
 import pathlib
 import re
+import statistics
 import subprocess
 import sys
 
@@ -16,6 +18,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 BUILD = ROOT / "build" / "benchmark"
 # What the benchmark library adds to a name for its own settings.
 SETTING = re.compile(r"(min_time|min_warmup_time|repeats|iterations|threads):\d|(real|manual|process)_time$")
+REPETITIONS = 7
 NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
 
 
@@ -32,21 +35,27 @@ def programs(topics):
 
 
 def figure(run):
-    """What counts of one run: its bytes, or nanoseconds of processor time, or of real time where the benchmark asks for it."""
-    if "bytes_each" in run:
-        return run["bytes_each"]
-    return run["real_time" if "real_time" in run["run_name"] else "cpu_time"] * NANOSECONDS[run["time_unit"]]
+    """What counts of one run: its bytes, or nanoseconds of processor time."""
+    return run["bytes_each"] if "bytes_each" in run else run["cpu_time"] * NANOSECONDS[run["time_unit"]]
+
+
+def median(runs):
+    """None when one of the runs failed."""
+    return None if any(run.get("error_occurred") for run in runs) else statistics.median(map(figure, runs))
 
 
 def measure(program):
     """The medians of one program: name to figure."""
     results = BUILD / f"{program.name}.json"
     print(f"{program.name} ...", file=sys.stderr)
-    subprocess.run([program, "--benchmark_enable_random_interleaving=true", "--benchmark_repetitions=7", "--benchmark_min_time=0.05",
-                    "--benchmark_report_aggregates_only=true", "--benchmark_out_format=json", f"--benchmark_out={results}"],
+    subprocess.run([program, "--benchmark_enable_random_interleaving=true", f"--benchmark_repetitions={REPETITIONS}",
+                    "--benchmark_min_time=0.05", "--benchmark_out_format=json", f"--benchmark_out={results}"],
                    check=True, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, env={**os.environ, "G_SLICE": "always-malloc"})
-    medians = [run for run in json.loads(results.read_text())["benchmarks"] if run.get("aggregate_name") == "median"]
-    return {run["run_name"]: figure(run) for run in medians}
+    runs = {}
+    for run in json.loads(results.read_text())["benchmarks"]:
+        if run["run_type"] == "iteration":
+            runs.setdefault(run["run_name"], []).append(run)
+    return {name: median(each) for name, each in runs.items()}
 
 
 def by_case(medians):
@@ -64,7 +73,13 @@ def by_case(medians):
 
 
 def number(time):
+    if time is None:
+        return "failed"
     return f"{time:,.2f}" if time < 100 else f"{time:,.0f}"
+
+
+def quotient(times, peer, digits=2):
+    return "failed" if None in (times["Project"], times[peer]) else f"{times['Project'] / times[peer]:.{digits}f}"
 
 
 def goals(targets, case):
@@ -74,38 +89,76 @@ def goals(targets, case):
 
 
 def text(goal):
-    return f"at most {goal['ratio']} x {goal['peer']}"
+    return f"below {goal['below']:,}" if "below" in goal else f"at most {goal['ratio']} x {goal['peer']}"
 
 
 def verdict(times, goal):
-    if goal["peer"] not in times:
+    if "below" in goal:
+        limit = goal["below"]
+    elif goal["peer"] not in times:
         return f"{goal['peer']} is missing"
-    return "reached" if times["Project"] <= goal["ratio"] * times[goal["peer"]] else "missed"
+    else:
+        limit = times[goal["peer"]] and goal["ratio"] * times[goal["peer"]]
+    if None in (times["Project"], limit):
+        return "failed"
+    reached = times["Project"] < limit if "below" in goal else times["Project"] <= limit
+    return "reached" if reached else "missed"
 
 
-def row(case, times, wanted):
+def has_peers(targets, case):
+    """Whether a target of the case, whatever its size, names a peer."""
+    return any("peer" in goal for other in targets if other.split("/")[0] == case.split("/")[0] for goal in goals(targets, other))
+
+
+def row(case, times, targets):
+    wanted = goals(targets, case)
     peers = [peer for peer in sorted(times) if peer != "Project"]
-    compared = [goal["peer"] for goal in wanted if goal["peer"] in times] or peers
+    compared = [goal["peer"] for goal in wanted if goal.get("peer") in times] or peers
     return "| " + " | ".join([
         case, number(times["Project"]),
-        ", ".join(f"{peer} {number(times[peer])}" for peer in peers) or "none on this machine",
-        ", ".join(f"{times['Project'] / times[peer]:.2f}" for peer in compared),
+        ", ".join(f"{peer} {number(times[peer])}" for peer in peers) or ("none on this machine" if has_peers(targets, case) else "no peer"),
+        ", ".join(quotient(times, peer) for peer in compared),
         ", ".join(map(text, wanted)), ", ".join(verdict(times, goal) for goal in wanted)]) + " |"
+
+
+def missed(cases, targets):
+    """Each target that is missed, in words."""
+    for case, times in sorted(cases.items()):
+        for goal in goals(targets, case):
+            if verdict(times, goal) == "missed":
+                words = case.removesuffix("/Threads") + (" beside a second thread" if case.endswith("/Threads") else "")
+                found = f"{quotient(times, goal['peer'], 3)} x {goal['peer']}" if "peer" in goal else number(times["Project"])
+                yield f"- {words}: {found}, wanted: {text(goal)}."
+
+
+def failures(cases, lost):
+    for case, times in sorted(cases.items()):
+        yield from (f"{case}: {contender} failed" for contender, time in times.items() if time is None)
+    yield from (f"{case}: not measured" for case in lost)
 
 
 def processor():
     return re.search(r"model name\s*:\s*(.+)", pathlib.Path("/proc/cpuinfo").read_text()).group(1)
 
 
-def table(cases, targets):
-    lost = sorted(targets.keys() - cases.keys())
+def explanations(names):
+    """What one operation of each topic is, and which cases it has."""
+    told = json.loads((ROOT / "benchmarks" / "topics.json").read_text())
+    return [f"- {', '.join(sorted(names[topic]))}: {told[topic]}" for topic in sorted(names)]
+
+
+def table(cases, names, targets, lost):
     return "\n".join([
         "# Benchmarks", "",
         f"Measured on {datetime.date.today().isoformat()} on {processor()}, {os.cpu_count()} cores, by the command `tools/benchmark`.",
-        "Medians of seven runs, by turns, in nanoseconds, of a case named Memory in bytes; a ratio is the project's figure divided",
-        "by the peer's. A case that ends in Threads was measured while its process had a second thread.", "",
+        f"A figure is the median of {REPETITIONS} repetitions, by turns, of one operation: nanoseconds of processor time, or bytes in a",
+        "case named Memory. A ratio is the project's figure divided by the peer's. Rows that end in Threads are those of a process",
+        "with a second thread, where counts of references are locked instructions.", "",
+        "What one operation is:", "", *explanations(names), "",
+        "## What is missed, and when", "", *(list(missed(cases, targets)) or ["Nothing."]), "",
+        "## All cases", "",
         "| case | project | peers | ratio | target | |", "|---|---:|---|---:|---|---|",
-        *(row(case, cases[case], goals(targets, case)) for case in sorted(cases)),
+        *(row(case, cases[case], targets) for case in sorted(cases)),
         *(f"| {case} | not measured | | | {', '.join(map(text, goals(targets, case)))} | missed |" for case in lost), ""])
 
 
@@ -113,16 +166,20 @@ def main(topics):
     build()
     targets = json.loads((ROOT / "benchmarks" / "targets.json").read_text())
     cases = {}
+    names = {}
     for program in programs(topics):
-        cases.update(by_case(measure(program)))
+        found = by_case(measure(program))
+        cases.update(found)
+        topic = program.name.removesuffix("_benchmark").removesuffix("Threads")
+        names.setdefault(topic, set()).update(case.split("/")[0] for case in found)
     if not cases:
         sys.exit("no benchmark of that name")
-    if topics:
-        print(table(cases, {case: target for case, target in targets.items() if case in cases}))
-        return
-    result = table(cases, targets)
-    (ROOT / "docs" / "benchmarks.md").write_text(result)
+    lost = [] if topics else sorted(targets.keys() - cases.keys())
+    result = table(cases, names, targets, lost)
+    if not topics:
+        (ROOT / "docs" / "benchmarks.md").write_text(result)
     print(result)
+    sys.exit("\n".join(failures(cases, lost)) or None)
 
 
 if __name__ == "__main__":
