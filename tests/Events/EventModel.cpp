@@ -9,6 +9,15 @@ const EventModel::Run* EventModel::Dispatch::Next()
   return _next < _runs.size() ? &_runs[_next++] : nullptr;
 }
 
+std::size_t EventModel::Dispatch::PassBy(Id i_handler)
+{
+  const auto first = std::remove_if(_runs.begin() + static_cast<std::ptrdiff_t>(_next), _runs.end(),
+                                    [=](const Run& i_run) { return i_run._handler == i_handler; });
+  const auto count = static_cast<std::size_t>(std::distance(first, _runs.end()));
+  _runs.erase(first, _runs.end());
+  return count;
+}
+
 bool EventModel::Dispatch::WillRun(Id i_handler) const
 {
   return std::any_of(_runs.begin() + static_cast<std::ptrdiff_t>(_next), _runs.end(),

@@ -35,6 +35,8 @@ public:
     // What runs next, null at the end.
     const Run* Next();
     void Consume() { _isConsumed = true; }
+    // The handler is passed by from now on. Answers how often.
+    std::size_t PassBy(Id i_handler);
     bool WillRun(Id i_handler) const;
 
   private:

@@ -1,5 +1,6 @@
 // Random operations on nodes, stores, handlers and dispatches, from outside, from within handlers and from the ends of
-// handlers, each compared with EventModel as it happens. The model comes first in each operation: the real one may be the
+// handlers, each compared with EventModel as it happens. Half of the handlers are weak ones, whose targets die as randomly,
+// also while a dispatch has them before it. The model comes first in each operation: the real one may be the
 // end of a handler that goes on with another operation.
 #include "EventModel.h"
 #include "RecordingFailureHandler.h"
@@ -13,6 +14,7 @@
 #include "ZELSYPEventHandlerInfo.h"
 #include "ZELSYPEventHandlerInfoList.h"
 #include "ZELSYPEventHandlersSupport.h"
+#include "ZELSYPMakeWeakHandler.h"
 #include "ZELSYPSingleEventPathBuilder.h"
 #include "ZELSYPSupportsEventPathBuilder.h"
 
@@ -24,9 +26,11 @@
 #include <iterator>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace
@@ -37,6 +41,8 @@ constexpr long s_ordinaryOperations = 200'000;
 constexpr int s_nodes = 8;
 constexpr int s_heldHandlers = 12;
 constexpr int s_heldLists = 4;
+constexpr int s_targets = 8;
+constexpr int s_noTarget = -1;
 constexpr int s_mostRegistrations = 48;
 constexpr int s_deepest = 4;
 constexpr int s_mostStepsInHandlers = 30;
@@ -93,7 +99,7 @@ class SoakHandler : public ZELSYPEventHandler
   ZELDeclareClass;
 
 public:
-  SoakHandler(Soak& io_soak, Id i_id, ZELMetaClass* i_pArgumentsClass, bool i_hasLastWords);
+  SoakHandler(Soak& io_soak, Id i_id, ZELMetaClass* i_pArgumentsClass, bool i_hasLastWords, int i_target);
   ~SoakHandler() override;
   void Handle(ZELBaseUnknown* i_pNode, ZELSYPEventArgs* i_pArgs) override;
   ZELMetaClass* GetArgumentsClass() override { return _pArgumentsClass; }
@@ -101,6 +107,10 @@ public:
 
   const Id _id;
   const bool _hasLastWords;
+  // The number of the target that it dies with, or none.
+  const int _target;
+  // What stores know it as: itself, or the weak handler that holds it.
+  ZELSYPEventHandler* _pRegistered = this;
   bool _isDead = false;
   static int s_living;
 
@@ -157,6 +167,8 @@ public:
   int Close();
   // Empty as long as both agree.
   const std::string& GetDisagreement() const { return _disagreement; }
+  // How often a dispatch had to pass by a handler whose target died before its turn.
+  std::size_t CountPassedBy() const { return _passedBy; }
 
   // What handlers and builders of this world tell and ask.
   void Enter(SoakHandler& io_handler) { _living[io_handler._id] = &io_handler; }
@@ -175,6 +187,11 @@ private:
     ZELSYPEventHandlersSupport* _pSupport; // of a node
     ZELMetaClass* _pClass;                 // or else of a class
     EventModel::Store& _model;
+  };
+  struct HeldHandler
+  {
+    Id _id;
+    ZELHandle<ZELSYPEventHandler> _spRegistered;
   };
   struct HeldList
   {
@@ -197,7 +214,9 @@ private:
   void RemoveSelf(const SoakHandler& i_handler, SoakNode& io_node, int i_event);
   void RemoveSome();
   void KillSome();
+  HeldHandler NewHandler(ZELMetaClass* i_pArgumentsClass, bool i_hasLastWords, int i_target);
   void RenewHandler();
+  void RenewTarget(int i_target);
   void RenewNode();
   void RenewClasses();
   void MoveNode();
@@ -232,6 +251,7 @@ private:
   long _operations = 0;
   int _stepsInHandlers = 0;
   bool _isClosing = false;
+  std::size_t _passedBy = 0;
   std::string _disagreement;
 
   ZELSYPEventFactory _factory;
@@ -239,7 +259,8 @@ private:
   std::unique_ptr<ZELSYPClassEventHandlersSupport> _spClassSupport = std::make_unique<ZELSYPClassEventHandlersSupport>();
   std::array<ZELHandle<SoakNode>, s_nodes> _nodes;
   std::array<int, s_nodes> _parents; // the place of each place's parent, -1 at a root; always a smaller one
-  std::array<ZELHandle<SoakHandler>, s_heldHandlers> _held;
+  std::array<std::optional<ZELSYPWeakTarget>, s_targets> _targets;
+  std::array<HeldHandler, s_heldHandlers> _held;
   std::array<HeldList, s_heldLists> _lists;
   std::vector<Raised*> _raised; // the dispatches that run, the innermost one last
 };
@@ -250,8 +271,8 @@ SoakNode::~SoakNode()
   --s_living;
 }
 
-SoakHandler::SoakHandler(Soak& io_soak, Id i_id, ZELMetaClass* i_pArgumentsClass, bool i_hasLastWords)
-    : _id(i_id), _hasLastWords(i_hasLastWords), _soak(io_soak), _pArgumentsClass(i_pArgumentsClass)
+SoakHandler::SoakHandler(Soak& io_soak, Id i_id, ZELMetaClass* i_pArgumentsClass, bool i_hasLastWords, int i_target)
+    : _id(i_id), _hasLastWords(i_hasLastWords), _target(i_target), _soak(io_soak), _pArgumentsClass(i_pArgumentsClass)
 {
   ++s_living;
   _soak.Enter(*this);
@@ -324,8 +345,10 @@ Soak::Soak(std::uint64_t i_seed) : _dice(i_seed)
     _nodes[static_cast<std::size_t>(place)] = ZELHandle<SoakNode>::Adopt(NewNode(*this, _dice.Throw(ClassCount), NewId(), place));
   for (int place = s_nodes - 1; place > 0; --place)
     _parents[static_cast<std::size_t>(place)] = place - 1;
-  for (ZELHandle<SoakHandler>& spHandler : _held)
-    spHandler = ZELHandle<SoakHandler>::Adopt(new SoakHandler(*this, NewId(), ZELSYPEventArgs::MetaObject(), false));
+  for (std::optional<ZELSYPWeakTarget>& target : _targets)
+    target.emplace();
+  for (HeldHandler& held : _held)
+    held = NewHandler(ZELSYPEventArgs::MetaObject(), false, s_noTarget);
 }
 
 int Soak::Close()
@@ -368,31 +391,34 @@ void Soak::Run(long i_operations)
 void Soak::Step()
 {
   ++_operations;
-  switch (_dice.Throw(17))
+  switch (_dice.Throw(19))
   {
   case 0:
   case 1:
   case 2:
   case 3:
+  case 4:
     return _model.CountRegistrations() < s_mostRegistrations ? AddHandler(SomeStore(), _dice.Throw(EventCount), SomeHandler())
                                                              : RemoveSome();
-  case 4:
   case 5:
   case 6:
     return RemoveSome();
   case 7:
     return KillSome();
   case 8:
-    return RenewHandler();
   case 9:
-    return RenewNode();
+    return RenewHandler();
   case 10:
-    return MoveNode();
+    return RenewTarget(_dice.Throw(s_targets));
   case 11:
-    return ReplaceStore();
+    return RenewNode();
   case 12:
-    return TakeList();
+    return MoveNode();
   case 13:
+    return ReplaceStore();
+  case 14:
+    return TakeList();
+  case 15:
     return _dice.IsOneOf(8) ? RenewClasses() : RemoveSome();
   default:
     return DispatchSome();
@@ -408,8 +434,9 @@ void Soak::AddHandler(const Store& i_store, int i_event, SoakHandler& io_handler
     EventModel::Add(i_store._model, i_event, io_handler._id, handlesConsumed);
   else
     _expectedFailures.push_back("The handler expects argument of type SoakArgs but the event uses arguments of type ZELSYPEventArgs");
-  const int result = i_store._pSupport ? i_store._pSupport->AddHandler(pEvent, &io_handler, handlesConsumed)
-                                       : _spClassSupport->AddClassHandler(i_store._pClass, pEvent, &io_handler, handlesConsumed);
+  const int result = i_store._pSupport
+                         ? i_store._pSupport->AddHandler(pEvent, io_handler._pRegistered, handlesConsumed)
+                         : _spClassSupport->AddClassHandler(i_store._pClass, pEvent, io_handler._pRegistered, handlesConsumed);
   Compare("the answer of AddHandler", result, isAccepted ? 1 : 0);
 }
 
@@ -419,7 +446,7 @@ void Soak::RemoveHandler(const Store& i_store, int i_event, Id i_handler)
   Compare("whether a registered handler lives", found != _living.end(), true);
   if (found == _living.end())
     return;
-  SoakHandler* const pHandler = found->second;
+  ZELSYPEventHandler* const pHandler = found->second->_pRegistered;
   ZELSYPEvent* const pEvent = _events[static_cast<std::size_t>(i_event)];
   const bool isThere = EventModel::Remove(i_store._model, i_event, i_handler);
   const int result = i_store._pSupport ? i_store._pSupport->RemoveHandler(pEvent, pHandler)
@@ -447,11 +474,35 @@ void Soak::KillSome()
   _model.Kill(found->first);
 }
 
+Soak::HeldHandler Soak::NewHandler(ZELMetaClass* i_pArgumentsClass, bool i_hasLastWords, int i_target)
+{
+  const auto spHandler = ZELHandle<SoakHandler>::Adopt(new SoakHandler(*this, NewId(), i_pArgumentsClass, i_hasLastWords, i_target));
+  if (i_target == s_noTarget)
+    return {spHandler->_id, spHandler};
+  HeldHandler weak{spHandler->_id, ZELSYPMakeWeakHandler(*_targets[static_cast<std::size_t>(i_target)], spHandler)};
+  spHandler->_pRegistered = weak._spRegistered;
+  return weak;
+}
+
 void Soak::RenewHandler()
 {
   ZELMetaClass* const pArguments = _dice.IsOneOf(4) ? SoakArgs::MetaObject() : ZELSYPEventArgs::MetaObject();
-  _held[static_cast<std::size_t>(_dice.Throw(s_heldHandlers))] =
-      ZELHandle<SoakHandler>::Adopt(new SoakHandler(*this, NewId(), pArguments, _dice.IsOneOf(2)));
+  const bool hasLastWords = _dice.IsOneOf(2);
+  HeldHandler fresh = NewHandler(pArguments, hasLastWords, _dice.IsOneOf(2) ? _dice.Throw(s_targets) : s_noTarget);
+  std::swap(_held[static_cast<std::size_t>(_dice.Throw(s_heldHandlers))], fresh);
+}
+
+// The handlers of the old one are to be removed, and run no more in the dispatches that have them before them.
+void Soak::RenewTarget(int i_target)
+{
+  for (const auto& [id, pHandler] : _living)
+    if (pHandler->_target == i_target)
+    {
+      _model.Kill(id);
+      for (Raised* const pRaised : _raised)
+        _passedBy += pRaised->_model.PassBy(id);
+    }
+  _targets[static_cast<std::size_t>(i_target)].emplace();
 }
 
 // The old node may live on in the route of a dispatch, with its store.
@@ -506,7 +557,10 @@ void Soak::CheckList(const HeldList& i_held)
   {
     const EventModel::Registration& expected = i_held._model[static_cast<std::size_t>(index)];
     const ZELSYPEventHandlerInfo* const pInfo = i_held._list.Get(index);
-    Compare("a handler of a list", static_cast<SoakHandler*>(pInfo->GetHandler())->_id, expected._handler);
+    const auto found = _living.find(expected._handler);
+    Compare("whether a handler of a list lives", found != _living.end(), true);
+    if (found != _living.end())
+      Compare("a handler of a list", pInfo->GetHandler(), found->second->_pRegistered);
     Compare("the flag of a list", pInfo->GetHandleConsumedEvents() != 0, expected._handlesConsumed);
   }
 }
@@ -637,7 +691,7 @@ void Soak::HandlerRuns(SoakHandler& io_handler, SoakNode& io_node, ZELSYPEventAr
 
 void Soak::StepInHandler(SoakHandler& io_handler, SoakNode& io_node, Raised& io_raised)
 {
-  switch (_dice.Throw(8))
+  switch (_dice.Throw(9))
   {
   case 0:
     io_raised._pArgs->Consume();
@@ -645,9 +699,11 @@ void Soak::StepInHandler(SoakHandler& io_handler, SoakNode& io_node, Raised& io_
   case 1:
     return RemoveSelf(io_handler, io_node, io_raised._event);
   case 2:
+    return io_handler._target == s_noTarget ? void() : RenewTarget(io_handler._target);
   case 3:
-    return;
   case 4:
+    return;
+  case 5:
     if (_raised.size() < s_deepest)
       DispatchSome();
     return;
@@ -670,7 +726,7 @@ Soak::Store Soak::SomeStore()
 
 SoakHandler& Soak::SomeHandler()
 {
-  return *_held[static_cast<std::size_t>(_dice.Throw(s_heldHandlers))];
+  return *_living.at(_held[static_cast<std::size_t>(_dice.Throw(s_heldHandlers))]._id);
 }
 
 // Mostly one that is registered there.
@@ -687,8 +743,8 @@ bool Soak::IsNeeded(Id i_handler) const
 {
   std::set<Id> needed;
   _model.AddHandlersTo(needed);
-  for (const ZELHandle<SoakHandler>& spHandler : _held)
-    needed.insert(spHandler->_id);
+  for (const HeldHandler& held : _held)
+    needed.insert(held._id);
   for (const HeldList& held : _lists)
     for (const EventModel::Registration& each : held._model)
       needed.insert(each._handler);
@@ -715,8 +771,8 @@ void Soak::CheckWhoLives()
   Compare("the number of living arguments", SoakArgs::s_living, 0);
   std::set<Id> handlers;
   _model.AddHandlersTo(handlers);
-  for (const ZELHandle<SoakHandler>& spHandler : _held)
-    handlers.insert(spHandler->_id);
+  for (const HeldHandler& held : _held)
+    handlers.insert(held._id);
   for (const HeldList& held : _lists)
     for (const EventModel::Registration& each : held._model)
       handlers.insert(each._handler);
@@ -737,6 +793,7 @@ TEST_P(EventSoakTest, RandomOperationsAgreeWithTheModelStepByStepAndLeaveNothing
   Soak soak(static_cast<std::uint64_t>(GetParam()));
   soak.Run(GetSoakOperations(s_ordinaryOperations) / s_seeds);
   EXPECT_EQ(soak.GetDisagreement(), "");
+  EXPECT_GT(soak.CountPassedBy(), 0u);
   EXPECT_EQ(soak.Close(), 0) << "references on events that nobody gave back";
   EXPECT_EQ(SoakNode::s_living, 0);
   EXPECT_EQ(SoakArgs::s_living, 0);
