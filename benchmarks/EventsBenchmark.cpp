@@ -25,12 +25,14 @@
 // which has one way out, so that the compiler does not take the end of the route for the path of an error; the library
 // calls its own functions directly; a block of memory is taken back by the thread that took it, which needs no counting; one
 // lender serves all nodes of a route; the answers of the builder for one object are cold, or the compiler would test every
-// route for that builder, three times a node.
+// route for that builder, three times a node. A call and its return take about four cycles, and a jump that is taken one,
+// which is more than the instructions between them: destructors of builders are inlined where they are used, and what is
+// told to the compiler as likely keeps the way of a handler that stays and runs in one piece.
 //
 // Tried and dropped: walking a snapshot to ask who must be removed without comparing it with the list after each answer. It
 // hid a list that a handler empties while it is asked. Stops aligned to cache lines, stops fetched before they are taken,
-// what a store found last next to the count of its node, one test for observers and consumed arguments together (three
-// instructions less a handler), and -O2: no difference that lasts.
+// what a store found last next to the count of its node, one test for observers and consumed arguments together (a branch
+// less a handler), the likely ways through the steps that are taken once a dispatch, and -O2: no difference that lasts.
 //
 // What is left beside a second thread with nobody listening is one pair of locked instructions a node, since a route holds
 // its nodes while it is built.

@@ -66,7 +66,7 @@ private:
   // Most often the event is the one that was asked for last.
   ZELSYPEventHandlerInfoList* FindList(ZELSYPEvent* i_pEvent)
   {
-    if (i_pEvent != _pLastEvent)
+    if (__builtin_expect(i_pEvent != _pLastEvent, false))
     {
       _pLastList = _eventHandlers.Locate(i_pEvent);
       _pLastEvent = i_pEvent;

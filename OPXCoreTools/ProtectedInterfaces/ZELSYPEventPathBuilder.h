@@ -20,7 +20,7 @@ public:
   ZELSYPEventPathBuilder() = default;
   ZELSYPEventPathBuilder(const ZELSYPEventPathBuilder&) = default;
   ZELSYPEventPathBuilder& operator=(const ZELSYPEventPathBuilder&) = default;
-  virtual ~ZELSYPEventPathBuilder();
+  virtual ~ZELSYPEventPathBuilder() = default;
 
   // 1: the route was built and run, whether or not a handler ran. The origin is set on arguments that have none.
   // 0, and nothing runs: no origin ("i_pOrigin"), no arguments ("i_pArgs"), arguments that have another origin

@@ -12,7 +12,7 @@ public:
   // Owns neither; both must outlive the dispatches. No store: "_pEventHandlersSupport", and each dispatch reports it again
   // and is refused. No class store: only the object's own handlers run.
   ZELSYPSingleEventPathBuilder(ZELSYPEventHandlersSupport* i_pEventHandlersSupport, ZELSYPClassEventHandlersSupport* i_pClassSupport);
-  ~ZELSYPSingleEventPathBuilder() override;
+  ~ZELSYPSingleEventPathBuilder() override = default;
 
 private:
   ZELBaseUnknown* GetParent(ZELSYPEventArgs* i_pArgs, ZELBaseUnknown* i_pNode) override;

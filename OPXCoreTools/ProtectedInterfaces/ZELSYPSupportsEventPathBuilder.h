@@ -20,7 +20,7 @@ public:
   ZELSYPSupportsEventPathBuilder() = default;
   ZELSYPSupportsEventPathBuilder(const ZELSYPSupportsEventPathBuilder&) = default;
   ZELSYPSupportsEventPathBuilder& operator=(const ZELSYPSupportsEventPathBuilder&) = default;
-  ~ZELSYPSupportsEventPathBuilder() override;
+  ~ZELSYPSupportsEventPathBuilder() override = default;
 
 protected:
   // What the two questions below answer for a node that has no store. Made by the first call, for ever.

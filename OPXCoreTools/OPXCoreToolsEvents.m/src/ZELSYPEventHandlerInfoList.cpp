@@ -12,7 +12,7 @@ namespace
 {
 bool Stays(const ZELSYPEventHandlerInfo* i_pInfo)
 {
-  return i_pInfo && i_pInfo->GetHandler() && i_pInfo->GetHandler()->MustBeRemoved() == 0;
+  return i_pInfo && i_pInfo->GetHandler() && __builtin_expect(i_pInfo->GetHandler()->MustBeRemoved() == 0, true);
 }
 
 bool HasHandler(const ZELSYPEventHandlerInfo* pInfo)

@@ -54,8 +54,6 @@ bool IsKnown(ZELSYPEvent::Propagation i_propagation)
 }
 } // namespace
 
-ZELSYPEventPathBuilder::~ZELSYPEventPathBuilder() = default;
-
 [[gnu::flatten]] int ZELSYPEventPathBuilder::Dispatch(ZELBaseUnknown* i_pOrigin, ZELSYPEventArgs* i_pArgs)
 {
   if (!ZELSYP_CHECK_POINTER(i_pOrigin) || !ZELSYP_CHECK_POINTER(i_pArgs) || !HasOrigin(i_pOrigin, i_pArgs))

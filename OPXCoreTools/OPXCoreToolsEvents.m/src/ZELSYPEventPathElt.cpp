@@ -10,7 +10,7 @@ namespace
 {
 bool MayRun(const ZELSYPEventHandlerInfo& i_info, const ZELSYPEventArgs& i_args)
 {
-  return !i_args.IsConsumed() || i_info.GetHandleConsumedEvents() != 0;
+  return __builtin_expect(i_args.IsConsumed() == 0, true) || i_info.GetHandleConsumedEvents() != 0;
 }
 } // namespace
 

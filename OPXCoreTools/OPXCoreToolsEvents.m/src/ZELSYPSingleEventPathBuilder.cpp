@@ -9,8 +9,6 @@ ZELSYPSingleEventPathBuilder::ZELSYPSingleEventPathBuilder(ZELSYPEventHandlersSu
   ZELSYP_CHECK_POINTER(_pEventHandlersSupport);
 }
 
-ZELSYPSingleEventPathBuilder::~ZELSYPSingleEventPathBuilder() = default;
-
 // Its three answers are cold: where they are the only ones that the library knows of, the compiler tests every route of every
 // builder for them before it asks.
 [[gnu::cold]] ZELBaseUnknown* ZELSYPSingleEventPathBuilder::GetParent(ZELSYPEventArgs*, ZELBaseUnknown*)

@@ -15,8 +15,6 @@ ZELSYPEventHandlersSupport* s_pNoSupport = nullptr;
 ZELSYPClassEventHandlersSupport* s_pNoClassSupport = nullptr;
 } // namespace
 
-ZELSYPSupportsEventPathBuilder::~ZELSYPSupportsEventPathBuilder() = default;
-
 ZELSYPEventHandlersSupport* ZELSYPSupportsEventPathBuilder::NO_SUPPORT()
 {
   if (!s_pNoSupport)
@@ -36,7 +34,7 @@ inline ZELSYPSupportsEventPathBuilder::Element ZELSYPSupportsEventPathBuilder::N
                                                                                           ZELBaseUnknown& i_node)
 {
   ZELSYPRouteNode* const pLender = i_args._pRouteNode;
-  return pLender && pLender->Has(i_node) ? std::make_unique<ZELSYPEventPathElt>(*pLender) : std::make_unique<ZELSYPEventPathElt>(&i_node);
+  return __builtin_expect(pLender && pLender->Has(i_node), true) ? std::make_unique<ZELSYPEventPathElt>(*pLender) : std::make_unique<ZELSYPEventPathElt>(&i_node);
 }
 
 // Inlined where it stands, for a stop that is there and for a new one: it is most of what there is to do at a node that
@@ -46,7 +44,7 @@ inline ZELSYPSupportsEventPathBuilder::Element ZELSYPSupportsEventPathBuilder::N
 {
   if (i_list.GetSize() == 0)
     return;
-  if (io_pElement)
+  if (__builtin_expect(io_pElement != nullptr, false))
     return io_pElement->AddList(std::move(i_list));
   io_pElement = NewElement(i_args, i_node);
   io_pElement->AddList(std::move(i_list));
