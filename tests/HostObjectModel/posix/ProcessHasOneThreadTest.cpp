@@ -9,9 +9,9 @@
 
 OPX_CHILD_ENTRY(TellWhetherThereIsOneThread)
 {
-  const bool before = *ZELProcessHasOneThread;
+  const bool before = ZELAtomicCounter::ProcessHasOneThread();
   bool during = true;
-  std::thread([&] { during = *ZELProcessHasOneThread; }).join();
+  std::thread([&] { during = ZELAtomicCounter::ProcessHasOneThread(); }).join();
   std::printf("%d %d\n", before, during);
   return 0;
 }

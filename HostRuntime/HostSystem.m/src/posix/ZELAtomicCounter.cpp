@@ -1,5 +1,0 @@
-#include "ZELAtomicCounter.h"
-
-#include <sys/single_threaded.h>
-
-const char* const ZELProcessHasOneThread = &__libc_single_threaded;
