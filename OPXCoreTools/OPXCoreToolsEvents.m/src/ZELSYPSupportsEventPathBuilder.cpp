@@ -34,7 +34,8 @@ inline ZELSYPSupportsEventPathBuilder::Element ZELSYPSupportsEventPathBuilder::N
                                                                                           ZELBaseUnknown& i_node)
 {
   ZELSYPRouteNode* const pLender = i_args._pRouteNode;
-  return __builtin_expect(pLender && pLender->Has(i_node), true) ? std::make_unique<ZELSYPEventPathElt>(*pLender) : std::make_unique<ZELSYPEventPathElt>(&i_node);
+  return __builtin_expect(pLender && pLender->Has(i_node), true) ? std::make_unique<ZELSYPEventPathElt>(*pLender)
+                                                                 : std::make_unique<ZELSYPEventPathElt>(&i_node);
 }
 
 // Inlined where it stands, for a stop that is there and for a new one: it is most of what there is to do at a node that
