@@ -15,6 +15,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 class OPXHOSTRUNTIME_EXPORT ZELSysRootedDirectory
@@ -59,8 +60,9 @@ public:
     std::uint64_t lastWriteTime = 0;
   };
 
-  // Opens a directory by a path as the system itself writes it; a link there is followed.
-  explicit ZELSysRootedDirectory(const ZELUnicodeString& i_path);
+  // Opens a directory by a path as the system itself writes it; a link there is followed. o_pError: why it could not be
+  // opened, left alone when it could; may be null.
+  explicit ZELSysRootedDirectory(const ZELUnicodeString& i_path, std::error_code* o_pError = nullptr);
   ZELSysRootedDirectory(ZELSysRootedDirectory&& io_other) noexcept;
   ZELSysRootedDirectory& operator=(ZELSysRootedDirectory&& io_other) noexcept;
   ~ZELSysRootedDirectory();

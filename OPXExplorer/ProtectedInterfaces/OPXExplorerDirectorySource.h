@@ -1,5 +1,5 @@
 // OPXExplorerDirectorySource: the tree below one directory of the file system, as a tree session asks for it.
-// OPXExplorerDirectorySource source(ZELSysRootedDirectory(path)); OPXTreeSession session(source);
+// OPXExplorerDirectorySource source{ZELSysRootedDirectory(path)}; OPXTreeSession session(source);
 //
 // A group key is an entry's id. Nothing outside the directory is served, and no link is followed: a key that names no
 // entry, or whose entry is no directory that may be read, is not found. What names an entry is for the file system to say:

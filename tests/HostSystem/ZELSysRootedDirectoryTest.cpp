@@ -56,6 +56,21 @@ TEST(ZELSysRootedDirectoryTest, WhatIsNoDirectoryIsNotOpen)
     EXPECT_FALSE(Open(path).IsOpen()) << path;
 }
 
+TEST(ZELSysRootedDirectoryTest, TheSystemSaysWhyADirectoryIsNotOpen)
+{
+  const TestFolder folder;
+  folder.Write("a.txt", "x");
+  const auto getError = [&folder](const char* i_name)
+  {
+    std::error_code error;
+    ZELSysRootedDirectory(ZELUnicodeString::FromUTF8(folder.At(i_name).u8string()), &error);
+    return error;
+  };
+  EXPECT_EQ(getError("missing"), std::errc::no_such_file_or_directory);
+  EXPECT_EQ(getError("a.txt"), std::errc::not_a_directory);
+  EXPECT_EQ(getError(""), std::error_code());
+}
+
 TEST(ZELSysRootedDirectoryTest, WhatIsAskedOfOneThatIsNotOpenIsEmpty)
 {
   const TestFolder folder;

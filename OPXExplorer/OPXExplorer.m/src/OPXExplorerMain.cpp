@@ -9,6 +9,7 @@
 #include "ZELSysStandardStreams.h"
 
 #include <string>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -26,12 +27,12 @@ OPXExplorerOptions::ExitCode Serve(OPXExplorerDirectorySource& io_source, OPXExp
   return OPXExplorerOptions::Done;
 }
 
-OPXExplorerOptions::ExitCode Print(OPXExplorerDirectorySource& io_source, const OPXExplorerOptions& i_options, OPXExplorerOutput& io_output)
+OPXExplorerOptions::ExitCode Print(OPXExplorerDirectorySource& io_source, const std::string& i_directory, OPXExplorerOutput& io_output)
 {
   const OPXTreeSession session(io_source);
-  if (OPXExplorerTreePrinter(session, i_options.GetRows(), io_output).Print())
+  if (OPXExplorerTreePrinter(session, io_output).Print())
     return OPXExplorerOptions::Done;
-  return Fail("list the directory " + i_options.GetDirectory() + " to its end; see that it can be reached, then run it again");
+  return Fail("list the directory " + i_directory + " to its end; see that it can be reached, then run it again");
 }
 
 OPXExplorerOptions::ExitCode Run(const std::vector<ZELUnicodeString>& i_arguments, OPXExplorerOutput& io_output)
@@ -39,11 +40,12 @@ OPXExplorerOptions::ExitCode Run(const std::vector<ZELUnicodeString>& i_argument
   OPXExplorerOptions options;
   if (const auto code = options.Parse(i_arguments, io_output))
     return *code;
-  ZELSysRootedDirectory root(ZELUnicodeString::FromUTF8(options.GetDirectory()));
+  std::error_code error;
+  ZELSysRootedDirectory root(ZELUnicodeString::FromUTF8(options.GetDirectory()), &error);
   if (!root.IsOpen())
-    return Fail("read the directory " + options.GetDirectory());
+    return Fail("read the directory " + options.GetDirectory() + ": " + error.message());
   OPXExplorerDirectorySource source(std::move(root));
-  return options.IsStdio() ? Serve(source, io_output) : Print(source, options, io_output);
+  return options.IsStdio() ? Serve(source, io_output) : Print(source, options.GetDirectory(), io_output);
 }
 } // namespace
 

@@ -3,20 +3,19 @@
 #include "ZELSysStandardStreams.h"
 
 #include <CLI/CLI.hpp>
-#include <climits>
 #include <sstream>
 
 namespace
 {
 constexpr const char* purpose = "Shows the tree of a directory: its first two levels to a person, or all of it to a program.";
 
-constexpr const char* footer = "Without --stdio the first rows of the directory and of its subdirectories are printed; times are UTC.\n"
+constexpr const char* footer = "Without --stdio the first ten rows of the directory and of its subdirectories are printed; times are UTC.\n"
                                "With --stdio each line of the input is a JSON-RPC 2.0 message, answered by a line of the output. Methods:\n"
                                "  tree/rows, tree/structure, tree/selectionChange, tree/collapseExpand, tree/pointerEvent, tree/succeeded\n"
                                "What changes is told by lines of the output that answer nothing: tree/selectionChanged\n"
                                "Exit codes:\n"
                                "  0  done; also when the input ends or nobody reads the output any more\n"
-                               "  1  the directory cannot be read, or the output cannot be written\n"
+                               "  1  the directory cannot be read or not listed to its end, or the output cannot be written\n"
                                "  2  wrong usage";
 
 // The parser takes the last argument first.
@@ -46,7 +45,6 @@ std::optional<OPXExplorerOptions::ExitCode> OPXExplorerOptions::Parse(const std:
   app.footer(footer);
   app.set_version_flag("--version", "opx-explorer " OPX_VERSION);
   app.add_flag("--stdio", _isStdio, "Answer a tree view over standard input and output");
-  app.add_option("--rows", _rows, "Rows to print of each directory")->capture_default_str()->check(CLI::Range(1, INT_MAX));
   app.add_option("DIRECTORY", _directory, "The directory to show; nothing outside it is")->required();
   try
   {

@@ -1,5 +1,5 @@
 // OPXExplorerOptions: what the command line asks of opx-explorer.
-// OPXExplorerOptions options; if (auto code = options.Parse(arguments)) return *code;
+// OPXExplorerOptions options; if (auto code = options.Parse(arguments, output)) return *code;
 #ifndef OPXExplorerOptions_H
 #define OPXExplorerOptions_H
 
@@ -25,13 +25,10 @@ public:
 
   const std::string& GetDirectory() const noexcept { return _directory; }
   bool IsStdio() const noexcept { return _isStdio; }
-  // To print of each directory.
-  int GetRows() const noexcept { return _rows; }
 
 private:
   std::string _directory;
   bool _isStdio = false;
-  int _rows = 10;
 };
 
 #endif

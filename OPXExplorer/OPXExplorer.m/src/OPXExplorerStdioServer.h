@@ -1,5 +1,5 @@
 // OPXExplorerStdioServer: a tree session over standard input and output, one message a line.
-// OPXExplorerStdioServer(source, source).Run();
+// OPXExplorerStdioServer(source, source, output).Run();
 #ifndef OPXExplorerStdioServer_H
 #define OPXExplorerStdioServer_H
 

@@ -13,6 +13,7 @@
 namespace
 {
 constexpr std::size_t levels = 2;
+constexpr int rows = 10;
 constexpr std::size_t nameColumns = 44;
 
 std::string MakeIndent(std::size_t i_level)
@@ -103,8 +104,8 @@ std::string MakeLine(const nlohmann::json& i_row, std::size_t i_level)
 
 } // namespace
 
-OPXExplorerTreePrinter::OPXExplorerTreePrinter(const OPXTreeSession& i_session, int i_rows, OPXExplorerOutput& io_output)
-    : _session(i_session), _rows(i_rows), _output(io_output)
+OPXExplorerTreePrinter::OPXExplorerTreePrinter(const OPXTreeSession& i_session, OPXExplorerOutput& io_output)
+    : _session(i_session), _output(io_output)
 {
 }
 
@@ -159,7 +160,7 @@ bool OPXExplorerTreePrinter::PrintRow(const nlohmann::json& i_row, const Path& i
 
 nlohmann::json OPXExplorerTreePrinter::RequestRows(const Path& i_path) const
 {
-  const nlohmann::json params{{"startRow", 0}, {"endRow", _rows}, {"groupKeys", i_path}};
+  const nlohmann::json params{{"startRow", 0}, {"endRow", rows}, {"groupKeys", i_path}};
   const nlohmann::json request{{"jsonrpc", "2.0"}, {"id", 1}, {"method", "tree/rows"}, {"params", params}};
   const OPXExplorerSpinner spinner("reading " + (i_path.empty() ? std::string("the directory") : MakePrintable(i_path.back())));
   return nlohmann::json::parse(_session.Answer(request.dump()));

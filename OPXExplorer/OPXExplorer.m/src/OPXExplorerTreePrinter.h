@@ -15,10 +15,9 @@ class OPXExplorerTreePrinter
 {
 public:
   // The session and the output are borrowed for the life of the printer.
-  // i_rows: of each directory, at most.
-  OPXExplorerTreePrinter(const OPXTreeSession& i_session, int i_rows, OPXExplorerOutput& io_output);
+  OPXExplorerTreePrinter(const OPXTreeSession& i_session, OPXExplorerOutput& io_output);
 
-  // Two levels, for as long as the output is open. False when the directory itself could not be listed to its
+  // Two levels, ten rows a directory, for as long as the output is open. False when the directory itself could not be listed to its
   // end, or a request failed, which is told on standard error.
   bool Print();
 
@@ -32,7 +31,6 @@ private:
   void Write(std::string i_line);
 
   const OPXTreeSession& _session;
-  int _rows;
   OPXExplorerOutput& _output;
 };
 

@@ -67,7 +67,7 @@ private:
 
 ChildResult Print(const std::string& i_directory)
 {
-  return ChildProcess(ChildProcess::Beside("opx-explorer"), {"--rows", "100", i_directory}).Run();
+  return ChildProcess(ChildProcess::Beside("opx-explorer"), {i_directory}).Run();
 }
 } // namespace
 
@@ -84,6 +84,17 @@ TEST(OPXExplorerBrokenListingTest, ADirectoryThatBreaksOffIsNotFoundUntilItCanBe
   }
   EXPECT_EQ(answer, json::parse(R"({"groupedRequestResult":{"lastRow":[0],"numberOfChildren":[0],"rows":[[]]},"notFound":[0]})"));
   EXPECT_TRUE(view.IsFound({}));
+}
+
+TEST(OPXExplorerBrokenListingTest, TheStructureOfADirectoryThatBreaksOffIsAnErrorThatSaysSo)
+{
+  const TemporaryTree tree;
+  const int directory = GetNextDescriptor();
+  const DirectoryView view(tree.SystemPath());
+  const Unlistable broken(directory);
+  const json answer = view.Ask("tree/structure", json::object());
+  EXPECT_EQ(answer["error"]["code"], -32603) << answer;
+  EXPECT_EQ(answer["error"]["data"]["reason"], "a directory could not be read to its end");
 }
 
 TEST(OPXExplorerBrokenListingTest, ADirectoryThatBreaksOffIsNoTreeToPrint)

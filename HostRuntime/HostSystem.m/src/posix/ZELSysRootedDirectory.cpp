@@ -50,9 +50,12 @@ DIR* OpenStream(int i_directory)
 }
 } // namespace
 
-ZELSysRootedDirectory::ZELSysRootedDirectory(const ZELUnicodeString& i_path)
-    : _handle(open(std::string(i_path.GetUTF8()).c_str(), directoryFlags))
+ZELSysRootedDirectory::ZELSysRootedDirectory(const ZELUnicodeString& i_path, std::error_code* o_pError)
 {
+  const std::string path(i_path.GetUTF8());
+  _handle = open(path.c_str(), directoryFlags);
+  if (!IsOpen() && o_pError)
+    *o_pError = {errno, std::system_category()};
 }
 
 ZELSysRootedDirectory::~ZELSysRootedDirectory()

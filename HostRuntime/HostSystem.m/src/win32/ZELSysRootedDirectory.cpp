@@ -89,13 +89,18 @@ void VisitBlock(const char* i_block, const ZELSysRootedDirectory::Visitor& i_vis
 }
 } // namespace
 
-ZELSysRootedDirectory::ZELSysRootedDirectory(const ZELUnicodeString& i_path)
-    : _handle(reinterpret_cast<std::intptr_t>(CreateFileW(reinterpret_cast<const wchar_t*>(i_path.ToUTF16().c_str()), directoryAccess,
-                                                          shareAll, nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr)))
+ZELSysRootedDirectory::ZELSysRootedDirectory(const ZELUnicodeString& i_path, std::error_code* o_pError)
 {
+  const std::u16string path = i_path.ToUTF16();
+  _handle = reinterpret_cast<std::intptr_t>(CreateFileW(reinterpret_cast<const wchar_t*>(path.c_str()), directoryAccess, shareAll, nullptr,
+                                                        OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+  const DWORD error = IsOpen() ? ERROR_DIRECTORY : GetLastError();
   BY_HANDLE_FILE_INFORMATION information;
-  if (!GetInformation(_handle, information) || !(information.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY))
-    *this = ZELSysRootedDirectory(NotOpen);
+  if (GetInformation(_handle, information) && information.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)
+    return;
+  *this = ZELSysRootedDirectory(NotOpen);
+  if (o_pError)
+    *o_pError = {static_cast<int>(error), std::system_category()};
 }
 
 ZELSysRootedDirectory::~ZELSysRootedDirectory()
