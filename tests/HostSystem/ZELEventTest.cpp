@@ -62,7 +62,7 @@ TEST(ZELEventTest, WaiterMayDestroyTheEventAtOnce)
   {
     std::unique_ptr<ZELEvent> pEvent(CreateZELEvent(0));
     std::thread signaller([p = pEvent.get()] { p->Signal(); });
-    WaitForSingleEvent(pEvent.get(), -1);
+    EXPECT_EQ(WaitForSingleEvent(pEvent.get(), -1), 1);
     pEvent.reset();
     signaller.join();
   }
