@@ -3,6 +3,9 @@
 
 #include "ChildProcess.h"
 #include "ChildProgram.h"
+#include "OPXExplorerTreePrinter.h"
+#include "OPXTreeDataSource.h"
+#include "OPXTreeSession.h"
 
 #include <chrono>
 #include <gmock/gmock.h>
@@ -12,9 +15,38 @@ using testing::MatchesRegex;
 
 namespace
 {
+// A directory "inner", which is empty. Each listing takes its time.
+class SlowSource : public OPXTreeDataSource
+{
+public:
+  explicit SlowSource(int i_milliseconds) : _time(i_milliseconds) {}
+
+  ZELSYPDataSourceParameters::TreeNodesAnswerParameters
+  RequestRows(const ZELSYPDataSourceParameters::TreeNodesRequestParameters& i_request) override
+  {
+    std::this_thread::sleep_for(_time);
+    if (!i_request.GroupKeys(0).empty())
+      return {{{}}, {0}};
+    return {{{{"inner", {{"id", "inner"}, {"name", "inner"}, {"kind", "directory"}}, true, -1}}}, {1}};
+  }
+  ZELSYPDataSourceParameters::TreeNodesModelStructureAnswerParameters
+  RequestStructure(const ZELSYPDataSourceParameters::TreeNodesModelStructureParameters&) override
+  {
+    return {};
+  }
+
+private:
+  const std::chrono::milliseconds _time;
+};
+
+std::string EntryCommand(const std::string& i_entry, const std::string& i_milliseconds)
+{
+  return "'" + ChildProcess::GetProgram() + "' " + ChildProgram::Option + " " + i_entry + " " + i_milliseconds;
+}
+
 std::string WorkCommand(const std::string& i_milliseconds)
 {
-  return "'" + ChildProcess::GetProgram() + "' " + ChildProgram::Option + " WorkBeforeAPerson " + i_milliseconds;
+  return EntryCommand("WorkBeforeAPerson", i_milliseconds);
 }
 
 // What a terminal is told.
@@ -31,6 +63,14 @@ OPX_CHILD_ENTRY(WorkBeforeAPerson)
   const OPXExplorerSpinner spinner("reading");
   std::this_thread::sleep_for(std::chrono::milliseconds(std::stoi(i_arguments.at(0))));
   return 0;
+}
+
+OPX_CHILD_ENTRY(PrintATree)
+{
+  SlowSource source(std::stoi(i_arguments.at(0)));
+  const OPXTreeSession session(source);
+  OPXExplorerOutput output;
+  return OPXExplorerTreePrinter(session, 10, output).Print() ? 0 : 1;
 }
 
 TEST(OPXExplorerSpinnerTest, TurnsWhileWorkTakesLongerThanHalfASecondAndLeavesNothing)
@@ -56,4 +96,15 @@ TEST(OPXExplorerSpinnerTest, NothingIsWrittenWhereNoPersonLooks)
   const ChildResult result = ChildProcess::Self("WorkBeforeAPerson", {"700"}).Run();
   EXPECT_TRUE(result.Succeeded()) << result;
   EXPECT_EQ(result.out + result.err, "");
+}
+
+TEST(OPXExplorerSpinnerTest, TurnsBeforeThePrintedTreeWhileAListingTakesLongerThanHalfASecond)
+{
+  EXPECT_THAT(ShownBy(EntryCommand("PrintATree", "900")), MatchesRegex("(\r[|/\\\\-] reading the directory)+\r *\rinner/\r\n"
+                                                                       "(\r[|/\\\\-] reading inner)+\r *\r"));
+}
+
+TEST(OPXExplorerSpinnerTest, ATreeThatIsListedQuicklyIsPrintedAlone)
+{
+  EXPECT_EQ(ShownBy(EntryCommand("PrintATree", "0")), "inner/\r\n");
 }
