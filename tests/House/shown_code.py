@@ -1,6 +1,6 @@
 """The C++ that a guide shows is code that the tests compile and run, line for line; each page shows what is right and what is wrong.
 
-usage: shown_code.py GUIDE_FOLDER CODE_FOLDER...
+usage: shown_code.py PAGE[,PAGE...] CODE_FOLDER...      a page may be a folder of pages
 """
 import pathlib
 import re
@@ -26,11 +26,16 @@ def unfounded_blocks(page, sources):
 
 def missing_halves(page):
     """A page that shows code says which of it is right and which is wrong."""
-    return [half for half in ("Right", "Wrong") if BLOCK.search(page) and not re.search(rf"^{half}\b", page, re.MULTILINE)]
+    return [half for half in ("Right", "Wrong") if BLOCK.search(page) and not re.search(rf"^ *{half}\b", page, re.MULTILINE)]
 
 
-def main(guide, *folders):
-    pages = {path: path.read_text() for path in sorted(pathlib.Path(guide).glob("*.md"))}
+def pages_of(guide):
+    """The page itself, or the pages of a folder."""
+    return sorted(guide.glob("*.md")) if guide.is_dir() else [guide]
+
+
+def main(guides, *folders):
+    pages = {path: path.read_text() for guide in guides.split(",") for path in pages_of(pathlib.Path(guide))}
     sources = [path.read_text() for folder in folders for path in pathlib.Path(folder).rglob("*") if path.suffix in (".h", ".cpp")]
     faults = [f"{path}: no test compiles the code that begins with: {line}" for path, page in pages.items()
               for line in unfounded_blocks(page, sources)]

@@ -2,14 +2,15 @@
 #ifndef MemorySource_H
 #define MemorySource_H
 
-#include "OPXTreeDataSource.h"
+#include "OPXTreeRowsSource.h"
+#include "ZELSYPAbstractDataSource.h"
 
 #include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
-class MemorySource : public OPXTreeDataSource
+class MemorySource : public ZELSYPAbstractDataSource, public OPXTreeRowsSource
 {
 public:
   ZELSYPDataSourceParameters::TreeNodesAnswerParameters
@@ -45,16 +46,17 @@ public:
     return {};
   }
 
-  void RequestPointerEvent(const ZELSYPDataSourceParameters::PointerEventParameters& i_event) override
+  void RequestPointerEvent(const ZELSYPDataSourceParameters::PointerEventParameters& i_event, PointerEventCallback i_callback) override
   {
     told.push_back("pointer " + std::to_string(i_event.GetIdsPath().size()) + " " + std::to_string(i_event.button()));
+    i_callback({});
   }
 
-  ZELSYPDataSourceParameters::SelectionChangeParameters
-  RequestSelectionChange(const ZELSYPDataSourceParameters::SelectionChangeParameters& i_change) override
+  void RequestSelectionChange(const ZELSYPDataSourceParameters::SelectionChangeParameters& i_change,
+                              SelectionChangeCallback i_callback) override
   {
     told.push_back("selection");
-    return i_change;
+    i_callback(i_change);
   }
 
   std::vector<std::string> told;

@@ -194,7 +194,7 @@ TEST_F(OPXTreeSessionTest, AGroupedRequestHoldsAThousandRequestsAndNoMore)
 
 TEST(OPXTreeSessionLimitsTest, ABatchWhoseAnswersTakeTooMuchRefusesItsOtherRequests)
 {
-  struct LargeSource : OPXTreeDataSource
+  struct LargeSource : ZELSYPAbstractDataSource, OPXTreeRowsSource
   {
     using Answer = ZELSYPDataSourceParameters::TreeNodesAnswerParameters;
     Answer RequestRows(const ZELSYPDataSourceParameters::TreeNodesRequestParameters&) override

@@ -22,6 +22,23 @@ NodesPath AddedFrom(const json& i_nodes)
 }
 } // namespace
 
+TEST(SelectionChangeParametersTest, AWrongTypeIsCaughtWhereMessagesComeIn)
+{
+  const json message = json::parse(R"({"addedNodes":[0,2]})");
+  std::string refused;
+  const auto Serve = [](const SelectionChangeParameters&) { ADD_FAILURE(); };
+  const auto Refuse = [&refused](const char* i_reason) { refused = i_reason; };
+  try
+  {
+    Serve(SelectionChangeParameters(message));
+  }
+  catch (const nlohmann::json::type_error& error)
+  {
+    Refuse(error.what()); // "[json.exception.type_error.302] type must be array, but is number"
+  }
+  EXPECT_EQ(refused, "[json.exception.type_error.302] type must be array, but is number");
+}
+
 TEST(SelectionChangeParametersTest, StartsEmpty)
 {
   EXPECT_EQ(TextOf({}), "{}");
