@@ -1,5 +1,5 @@
 // OPXExplorerTreePrinter: the first levels of a tree as indented lines for a person, asked of a session like any view.
-// return OPXExplorerTreePrinter(session, rows, output).Print();
+// return OPXExplorerTreePrinter(session, output).Print();
 #ifndef OPXExplorerTreePrinter_H
 #define OPXExplorerTreePrinter_H
 

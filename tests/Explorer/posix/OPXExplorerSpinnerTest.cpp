@@ -4,8 +4,9 @@
 #include "ChildProcess.h"
 #include "ChildProgram.h"
 #include "OPXExplorerTreePrinter.h"
-#include "OPXTreeDataSource.h"
+#include "OPXTreeRowsSource.h"
 #include "OPXTreeSession.h"
+#include "ZELSYPAbstractDataSource.h"
 
 #include <chrono>
 #include <gmock/gmock.h>
@@ -16,7 +17,7 @@ using testing::MatchesRegex;
 namespace
 {
 // A directory "inner", which is empty. Each listing takes its time.
-class SlowSource : public OPXTreeDataSource
+class SlowSource : public ZELSYPAbstractDataSource, public OPXTreeRowsSource
 {
 public:
   explicit SlowSource(int i_milliseconds) : _time(i_milliseconds) {}
@@ -70,7 +71,7 @@ OPX_CHILD_ENTRY(PrintATree)
   SlowSource source(std::stoi(i_arguments.at(0)));
   const OPXTreeSession session(source);
   OPXExplorerOutput output;
-  return OPXExplorerTreePrinter(session, 10, output).Print() ? 0 : 1;
+  return OPXExplorerTreePrinter(session, output).Print() ? 0 : 1;
 }
 
 TEST(OPXExplorerSpinnerTest, TurnsWhileWorkTakesLongerThanHalfASecondAndLeavesNothing)
