@@ -141,20 +141,23 @@ def processor():
     return re.search(r"model name\s*:\s*(.+)", pathlib.Path("/proc/cpuinfo").read_text()).group(1)
 
 
-def explanations(names):
+def topic_of(program):
+    return program.name.removesuffix("_benchmark").removesuffix("Threads")
+
+
+def explain(names, told):
     """What one operation of each topic is, and which cases it has."""
-    told = json.loads((ROOT / "benchmarks" / "topics.json").read_text())
     return [f"- {', '.join(sorted(names[topic]))}: {told[topic]}" for topic in sorted(names)]
 
 
-def table(cases, names, targets, lost):
+def table(cases, explanations, targets, lost):
     return "\n".join([
         "# Benchmarks", "",
         f"Measured on {datetime.date.today().isoformat()} on {processor()}, {os.cpu_count()} cores, by the command `tools/benchmark`.",
         f"A figure is the median of {REPETITIONS} repetitions, by turns, of one operation: nanoseconds of processor time, or bytes in a",
         "case named Memory. A ratio is the project's figure divided by the peer's. Rows that end in Threads are those of a process",
         "with a second thread, where counts of references are locked instructions.", "",
-        "What one operation is:", "", *explanations(names), "",
+        "What one operation is:", "", *explanations, "",
         "## What is missed, and when", "", *(list(missed(cases, targets)) or ["Nothing."]), "",
         "## All cases", "",
         "| case | project | peers | ratio | target | |", "|---|---:|---|---:|---|---|",
@@ -165,17 +168,21 @@ def table(cases, names, targets, lost):
 def main(topics):
     build()
     targets = json.loads((ROOT / "benchmarks" / "targets.json").read_text())
+    told = json.loads((ROOT / "benchmarks" / "topics.json").read_text())
+    asked = programs(topics)
+    if not asked:
+        sys.exit("no benchmark of that name")
+    untold = {topic_of(program) for program in asked} - told.keys()
+    if untold:
+        sys.exit(f"benchmarks/topics.json does not tell what one operation is of {', '.join(sorted(untold))}")
     cases = {}
     names = {}
-    for program in programs(topics):
+    for program in asked:
         found = by_case(measure(program))
         cases.update(found)
-        topic = program.name.removesuffix("_benchmark").removesuffix("Threads")
-        names.setdefault(topic, set()).update(case.split("/")[0] for case in found)
-    if not cases:
-        sys.exit("no benchmark of that name")
+        names.setdefault(topic_of(program), set()).update(case.split("/")[0] for case in found)
     lost = [] if topics else sorted(targets.keys() - cases.keys())
-    result = table(cases, names, targets, lost)
+    result = table(cases, explain(names, told), targets, lost)
     if not topics:
         (ROOT / "docs" / "benchmarks.md").write_text(result)
     print(result)

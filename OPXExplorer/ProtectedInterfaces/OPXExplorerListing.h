@@ -48,13 +48,16 @@ private:
   // One number an entry: entries are in order when their numbers are.
   using Column = std::vector<std::uint64_t>;
 
+  using Details = std::vector<ZELSysRootedDirectory::Details>;
+
   void SortNaturally();
   bool IsDirectory(std::uint32_t i_position) const { return _entries[i_position].kind == ZELSysRootedDirectory::Directory; }
-  Column MakeColumn(const ZELSYPDataSourceParameters::SortAttributeModel& i_sort, const ZELSysRootedDirectory& i_directory) const;
-  Column MakeAscendingColumn(const std::string& i_name, const ZELSysRootedDirectory& i_directory) const;
+  Details ReadDetails(const ZELSysRootedDirectory& i_directory) const;
+  // i_details is read for columns of sizes and times only.
+  Column MakeColumn(const ZELSYPDataSourceParameters::SortAttributeModel& i_sort, const Details& i_details) const;
+  Column MakeAscendingColumn(const std::string& i_name, const Details& i_details) const;
   Column MakeNameColumn() const;
   Column MakeKindColumn() const;
-  Column MakeDetailsColumn(const ZELSysRootedDirectory& i_directory, std::uint64_t ZELSysRootedDirectory::Details::*i_pDetail) const;
   Order Sort(const std::vector<Column>& i_columns) const;
 
   std::string _names;

@@ -3,7 +3,7 @@
 #include "OPXExplorerNaturalOrder.h"
 
 #include <algorithm>
-#include <numeric>
+#include <functional>
 #include <stdexcept>
 
 namespace
@@ -146,35 +146,47 @@ const OPXExplorerListing::Order& OPXExplorerListing::GetOrder(const SortModel& i
   const SortModel sortModel = Reduce(i_sortModel);
   if (sortModel.empty())
     return _naturalOrder;
-  const bool isStale = i_isRefreshed && std::any_of(sortModel.begin(), sortModel.end(), NeedsDetails);
-  if (sortModel == _sortModel && !isStale)
+  const bool needsDetails = std::any_of(sortModel.begin(), sortModel.end(), NeedsDetails);
+  if (sortModel == _sortModel && !(i_isRefreshed && needsDetails))
     return _order;
+  // Asked once for all columns: this is what an order takes its time for.
+  const Details details = needsDetails ? ReadDetails(i_directory) : Details();
   std::vector<Column> columns;
   for (const SortEntry& sort : sortModel)
-    columns.push_back(MakeColumn(sort, i_directory));
+    columns.push_back(MakeColumn(sort, details));
   _order = Sort(columns);
   _sortModel = sortModel;
   return _order;
 }
 
-OPXExplorerListing::Column OPXExplorerListing::MakeColumn(const SortEntry& i_sort, const ZELSysRootedDirectory& i_directory) const
+// What has gone since it was listed counts as empty and old.
+OPXExplorerListing::Details OPXExplorerListing::ReadDetails(const ZELSysRootedDirectory& i_directory) const
 {
-  Column column = MakeAscendingColumn(GetColumnName(i_sort), i_directory);
+  Details details(_entries.size());
+  for (std::uint32_t i = 0; i < details.size(); ++i)
+    i_directory.GetDetails(GetEntry(i).name, details[i]);
+  return details;
+}
+
+OPXExplorerListing::Column OPXExplorerListing::MakeColumn(const SortEntry& i_sort, const Details& i_details) const
+{
+  Column column = MakeAscendingColumn(GetColumnName(i_sort), i_details);
   if (i_sort.GetOrder() == SortEntry::Descending)
     for (std::uint64_t& number : column)
       number = ~number;
   return column;
 }
 
-OPXExplorerListing::Column OPXExplorerListing::MakeAscendingColumn(const std::string& i_name,
-                                                                   const ZELSysRootedDirectory& i_directory) const
+OPXExplorerListing::Column OPXExplorerListing::MakeAscendingColumn(const std::string& i_name, const Details& i_details) const
 {
   if (i_name == "name")
     return MakeNameColumn();
   if (i_name == "kind")
     return MakeKindColumn();
-  return MakeDetailsColumn(i_directory,
-                           i_name == "size" ? &ZELSysRootedDirectory::Details::size : &ZELSysRootedDirectory::Details::lastWriteTime);
+  Column column(i_details.size());
+  const auto pDetail = i_name == "size" ? &ZELSysRootedDirectory::Details::size : &ZELSysRootedDirectory::Details::lastWriteTime;
+  std::transform(i_details.begin(), i_details.end(), column.begin(), std::mem_fn(pDetail));
+  return column;
 }
 
 OPXExplorerListing::Column OPXExplorerListing::MakeNameColumn() const
@@ -189,19 +201,6 @@ OPXExplorerListing::Column OPXExplorerListing::MakeKindColumn() const
 {
   Column column(_entries.size());
   std::transform(_entries.begin(), _entries.end(), column.begin(), [](const StoredName& i_entry) { return i_entry.kind; });
-  return column;
-}
-
-OPXExplorerListing::Column OPXExplorerListing::MakeDetailsColumn(const ZELSysRootedDirectory& i_directory,
-                                                                 std::uint64_t ZELSysRootedDirectory::Details::*i_pDetail) const
-{
-  Column column(_entries.size());
-  for (std::uint32_t i = 0; i < column.size(); ++i)
-  {
-    ZELSysRootedDirectory::Details details;
-    i_directory.GetDetails(GetEntry(i).name, details);
-    column[i] = details.*i_pDetail;
-  }
   return column;
 }
 
