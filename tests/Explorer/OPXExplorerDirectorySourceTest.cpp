@@ -116,6 +116,22 @@ TEST(OPXExplorerDirectorySourceTest, LaterSortEntriesDecideBetweenEqualRows)
   EXPECT_THAT(DirectoryView(tree.SystemPath()).Names({}, 0, 9, sort), ElementsAre("c", "b", "a"));
 }
 
+TEST(OPXExplorerDirectorySourceTest, TimesDecideBetweenEqualSizesAndSizesBetweenEqualTimes)
+{
+  TemporaryTree tree;
+  tree.AddFile("a", "1");
+  tree.AddFile("b", "1");
+  tree.AddFile("c");
+  tree.SetTime("a", 132000000000000000);
+  tree.SetTime("b", 131000000000000000);
+  tree.SetTime("c", 132000000000000000);
+  const DirectoryView view(tree.SystemPath());
+  const json size{{"dataIndex", "size"}, {"sort", "asc"}};
+  const json modified{{"dataIndex", "modified"}, {"sort", "asc"}};
+  EXPECT_THAT(view.Names({}, 0, 9, json::array({size, modified})), ElementsAre("c", "b", "a"));
+  EXPECT_THAT(view.Names({}, 0, 9, json::array({modified, size})), ElementsAre("b", "c", "a"));
+}
+
 TEST(OPXExplorerDirectorySourceTest, AnUnknownSortPropertyDoesNotCount)
 {
   SortedTree tree;
