@@ -10,21 +10,14 @@ cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_INCLUDEDIR BASE_DIRECTORY "${CMAKE_I
 
 set_target_properties(OPXHostRuntime PROPERTIES EXPORT_NAME HostRuntime INSTALL_RPATH "$ORIGIN")
 set_target_properties(OPXCoreTools PROPERTIES EXPORT_NAME CoreTools INSTALL_RPATH "$ORIGIN")
-install(TARGETS OPXHostRuntime OPXCoreTools EXPORT OPXCoreTools)
-install(DIRECTORY HostRuntime/PublicInterfaces/ OPXCoreTools/ProtectedInterfaces/
+set_target_properties(OPXTreeBridge PROPERTIES EXPORT_NAME TreeBridge INSTALL_RPATH "$ORIGIN")
+set_target_properties(opx-explorer PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries_from_programs}")
+install(TARGETS OPXHostRuntime OPXCoreTools OPXTreeBridge EXPORT OPXCoreTools)
+install(TARGETS opx-explorer)
+install(DIRECTORY HostRuntime/PublicInterfaces/ OPXCoreTools/ProtectedInterfaces/ OPXTreeBridge/PublicInterfaces/
   "${CMAKE_BINARY_DIR}/generated/OPXHostRuntime/" "${CMAKE_BINARY_DIR}/generated/OPXCoreTools/"
+  "${CMAKE_BINARY_DIR}/generated/OPXTreeBridge/"
   DESTINATION "${header_folder}" FILES_MATCHING PATTERN "*.h")
-
-if(TARGET OPXTreeBridge)
-  set_target_properties(OPXTreeBridge PROPERTIES EXPORT_NAME TreeBridge INSTALL_RPATH "$ORIGIN")
-  install(TARGETS OPXTreeBridge EXPORT OPXCoreTools)
-  install(DIRECTORY OPXTreeBridge/PublicInterfaces/ "${CMAKE_BINARY_DIR}/generated/OPXTreeBridge/"
-    DESTINATION "${header_folder}" FILES_MATCHING PATTERN "*.h")
-endif()
-if(TARGET opx-explorer)
-  set_target_properties(opx-explorer PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries_from_programs}")
-  install(TARGETS opx-explorer)
-endif()
 
 install(EXPORT OPXCoreTools NAMESPACE OPX:: FILE OPXCoreToolsTargets.cmake DESTINATION "${package_folder}")
 configure_package_config_file(cmake/OPXCoreToolsConfig.cmake.in "${CMAKE_BINARY_DIR}/generated/OPXCoreToolsConfig.cmake"
