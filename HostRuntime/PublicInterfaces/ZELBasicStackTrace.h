@@ -1,4 +1,6 @@
 // ZELBasicStackTrace: a captured list of frames, and how it is printed.
+// ZELStackTrace trace; trace.GetTrace(); if (trace.GetFrameCount() > 0) Tell(trace.Describe(0));
+//
 // Captured by ZELStackTrace.
 #ifndef ZELBasicStackTrace_H
 #define ZELBasicStackTrace_H

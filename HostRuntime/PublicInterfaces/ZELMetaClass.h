@@ -3,7 +3,7 @@
 //
 // A record is made by ZELImplementClass (ZELBaseUnknown.h), is registered when its library is loaded, and lives for ever:
 // a library that holds one is never unloaded. Every operation may be called on any thread, at any time, also before main()
-// and after it. Nothing throws.
+// and after it. Nothing throws but for want of memory.
 #ifndef ZELMetaClass_H
 #define ZELMetaClass_H
 

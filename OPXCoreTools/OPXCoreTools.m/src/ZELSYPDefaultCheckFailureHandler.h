@@ -1,5 +1,7 @@
 // ZELSYPDefaultCheckFailureHandler: prints a failure, lets the user continue or hide the check, and otherwise breaks into
 // the debugger or ends the process. Only while the host's development stage is active.
+// ZELSYPCheckFailureHandler* pHandler = new (std::nothrow) ZELSYPDefaultCheckFailureHandler;
+//
 // Made by the first failure that finds no handler installed.
 #ifndef ZELSYPDefaultCheckFailureHandler_H
 #define ZELSYPDefaultCheckFailureHandler_H
