@@ -13,17 +13,17 @@
 namespace fs = std::filesystem;
 
 // The first name that nobody has; a name left behind by a program with the same number is passed over.
-static fs::path MakeOwnDirectory()
+static fs::path MakeOwnDirectory(const fs::path& i_folder)
 {
   static std::atomic<int> number{0};
   const std::string stem = "opx-tree-" + std::to_string(ZELGetProcessId()) + "-";
-  const fs::path folder = fs::canonical(fs::temp_directory_path());
+  const fs::path folder = fs::canonical(i_folder);
   for (;;)
     if (const fs::path root = folder / (stem + std::to_string(number++)); fs::create_directory(root))
       return root;
 }
 
-TemporaryTree::TemporaryTree() : _before(fs::current_path()), _root(MakeOwnDirectory()) {}
+TemporaryTree::TemporaryTree(const fs::path& i_folder) : _before(fs::current_path()), _root(MakeOwnDirectory(i_folder)) {}
 
 TemporaryTree::~TemporaryTree()
 {

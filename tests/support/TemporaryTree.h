@@ -16,7 +16,7 @@ class TemporaryTree
 {
 public:
   // Throws std::filesystem::filesystem_error when it cannot be made.
-  TemporaryTree();
+  explicit TemporaryTree(const std::filesystem::path& i_folder = std::filesystem::temp_directory_path());
   TemporaryTree(const TemporaryTree&) = delete;
   TemporaryTree& operator=(const TemporaryTree&) = delete;
   ~TemporaryTree();

@@ -10,7 +10,7 @@
 inline bool IsSettled(std::uint64_t i_changed)
 {
   const std::uint64_t step = i_changed % FileTimes::TicksPerSecond == 0 ? 2 * FileTimes::TicksPerSecond : FileTimes::TicksPerSecond / 20;
-  return i_changed + step < FileTimes::GetNow();
+  return i_changed < FileTimes::GetNow() - step;
 }
 
 #endif

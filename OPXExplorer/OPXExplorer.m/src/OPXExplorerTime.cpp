@@ -31,7 +31,8 @@ std::string OPXExplorerTime::MakeISO8601(std::uint64_t i_ticks)
   const Date date = MakeDate(seconds / 86400);
   const auto time = static_cast<unsigned>(seconds % 86400);
   char text[48];
-  std::snprintf(text, sizeof text, "%04u-%02u-%02uT%02u:%02u:%02uZ", date.year, date.month, date.day, time / 3600, time / 60 % 60,
-                time % 60);
+  // A year of more than four digits is written in six with a sign: so the expanded form of readers in JavaScript is.
+  std::snprintf(text, sizeof text, date.year > 9999 ? "+%06u-%02u-%02uT%02u:%02u:%02uZ" : "%04u-%02u-%02uT%02u:%02u:%02uZ", date.year,
+                date.month, date.day, time / 3600, time / 60 % 60, time % 60);
   return text;
 }

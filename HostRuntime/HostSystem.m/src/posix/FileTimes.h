@@ -12,13 +12,16 @@ constexpr std::uint64_t TicksPerSecond = 10000000;
 constexpr std::int64_t NanosecondsPerTick = 100;
 constexpr std::int64_t SecondsFrom1601To1970 = 11644473600;
 
-// What lies before 1601 has no count: it is the beginning.
+// What lies before 1601, or beyond the year 60000, has no count: it is the nearest that there is.
 inline std::uint64_t FromSystem(const timespec& i_time)
 {
-  const std::int64_t seconds = i_time.tv_sec + SecondsFrom1601To1970;
-  return seconds < 0
-             ? 0
-             : static_cast<std::uint64_t>(seconds) * TicksPerSecond + static_cast<std::uint64_t>(i_time.tv_nsec / NanosecondsPerTick);
+  constexpr auto maxSeconds = static_cast<std::int64_t>(UINT64_MAX / TicksPerSecond) - SecondsFrom1601To1970;
+  if (i_time.tv_sec < -SecondsFrom1601To1970)
+    return 0;
+  if (i_time.tv_sec >= maxSeconds)
+    return UINT64_MAX;
+  return static_cast<std::uint64_t>(i_time.tv_sec + SecondsFrom1601To1970) * TicksPerSecond +
+         static_cast<std::uint64_t>(i_time.tv_nsec / NanosecondsPerTick);
 }
 
 inline timespec ToSystem(std::uint64_t i_time)
