@@ -13,6 +13,7 @@
 #include "ZELSysRootedDirectory.h"
 
 #include <cstddef>
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -24,6 +25,9 @@ public:
   static constexpr std::size_t MaxSelected = 10000;
 
   explicit OPXExplorerDirectorySource(ZELSysRootedDirectory i_root);
+
+  // Within one message each directory is listed once, and its sizes and times are asked once for an order.
+  void StartMessage() override;
 
   // Rows: "id", "name", "kind" ("directory", "file", "link", "other"), "size" in bytes, "modified" in ISO 8601, UTC;
   // the last two are missing when the entry has gone since. A range is from its first row to before its last and is
@@ -58,6 +62,7 @@ private:
   bool IsNode(const std::string& i_id) const;
   // Empty when there is no such node.
   std::string FindID(const ZELSYPDataSourceParameters::IndexPath& i_path);
+  std::map<ZELSYPDataSourceParameters::IndexPath, std::string> FindIDs(const std::vector<ZELSYPDataSourceParameters::IndexPath>& i_paths);
   // False when it cannot be selected.
   bool Select(const std::string& i_id, std::vector<std::string>& io_added);
   void Deselect(const std::string& i_id, std::vector<std::string>& io_removed);

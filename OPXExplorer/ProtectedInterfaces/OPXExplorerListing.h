@@ -32,10 +32,12 @@ public:
   // Valid while the listing lives.
   Entry GetEntry(std::uint32_t i_position) const;
 
+  // What was asked of the directory so far is to be asked again.
+  void Outdate() noexcept { _isOutdated = true; }
   // Directories first; then by the entries of the sort model in turn ("id", "name", "kind", "size", "modified";
   // others do not count), and at last by natural order of the names, which alone holds without a sort model. The last
   // order is remembered and valid until the next call. Sizes and times are asked of the directory, again when
-  // i_isRefreshed, so that the blocks of one walk through the rows fit together.
+  // i_isRefreshed and they are outdated, so that the blocks of one walk through the rows fit together.
   const Order& GetOrder(const SortModel& i_sortModel, const ZELSysRootedDirectory& i_directory, bool i_isRefreshed);
 
 private:
@@ -65,6 +67,7 @@ private:
   Order _naturalOrder;
   SortModel _sortModel;
   Order _order;
+  bool _isOutdated = false;
 };
 
 #endif

@@ -17,6 +17,10 @@ public:
   OPXTreeRowsSource& operator=(const OPXTreeRowsSource&) = delete;
   virtual ~OPXTreeRowsSource();
 
+  // Told before the first request of each message: all requests of one message, a batch too, may be answered by one look
+  // at the model. Does nothing by default.
+  virtual void StartMessage();
+
   // The rows of each request, in request order. A request whose parent is unknown is marked as not found.
   virtual ZELSYPDataSourceParameters::TreeNodesAnswerParameters
   RequestRows(const ZELSYPDataSourceParameters::TreeNodesRequestParameters& i_request) = 0;

@@ -29,7 +29,7 @@ public:
   static constexpr std::size_t MaxMessageSize = std::size_t{16} << 20;
   // In levels of arrays and objects, the message's own and a batch's included.
   static constexpr int MaxNesting = 256;
-  // Of a batch, and of a grouped request.
+  // Of a batch, of a grouped request, and of a list of index paths.
   static constexpr std::size_t MaxRequests = 1000;
   // In bytes: once the answers of a batch take so much, its other requests are refused.
   static constexpr std::size_t MaxBatchAnswerSize = std::size_t{64} << 20;

@@ -1,6 +1,7 @@
 #include "OPXExplorerDirectorySource.h"
 
 #include "DirectoryView.h"
+#include "SettledDirectory.h"
 #include "TemporaryTree.h"
 
 #include <gmock/gmock.h>
@@ -138,13 +139,33 @@ TEST(OPXExplorerDirectorySourceTest, AnUnknownSortPropertyDoesNotCount)
   EXPECT_THAT(DirectoryView(tree.SystemPath()).Names({}, 0, 9, Sort("colour", "desc")), ElementsAre("d", "e", "big", "file2", "file10"));
 }
 
-TEST(OPXExplorerDirectorySourceTest, SizesAreAskedAnewWhenTheFirstRowIs)
+TEST(OPXExplorerDirectorySourceTest, SizesAreAskedAnewWhenTheFirstRowIsAndNotBefore)
 {
   SortedTree tree;
+  WaitUntilSettled(tree.SystemPath());
   const DirectoryView view(tree.SystemPath());
   view.Names({}, 0, 9, Sort("size", "asc"));
   tree.AddFile("file10", "now it is the biggest");
+  EXPECT_THAT(view.Names({}, 2, 9, Sort("size", "asc")), ElementsAre("file10", "file2", "big"));
   EXPECT_THAT(view.Names({}, 0, 9, Sort("size", "asc")), ElementsAre("d", "e", "file2", "big", "file10"));
+  EXPECT_THAT(view.Names({}, 2, 9, Sort("size", "asc")), ElementsAre("file2", "big", "file10"));
+}
+
+TEST(OPXExplorerDirectorySourceTest, WithinAMessageADirectoryIsListedOnce)
+{
+  TemporaryTree tree;
+  OPXExplorerDirectorySource source(Open(tree.SystemPath()));
+  const auto countRows = [&source]
+  {
+    const ZELSYPDataSourceParameters::TreeNodesRequestParameters request(json::parse(R"({"startRow":0,"endRow":9,"groupKeys":[]})"));
+    return source.RequestRows(request).ComputeJSON()["groupedRequestResult"]["numberOfChildren"][0].get<int>();
+  };
+  source.StartMessage();
+  EXPECT_EQ(countRows(), 0);
+  tree.AddFile("file");
+  EXPECT_EQ(countRows(), 0);
+  source.StartMessage();
+  EXPECT_EQ(countRows(), 1);
 }
 
 TEST(OPXExplorerDirectorySourceTest, ARangeEndsBeforeItsLastRow)

@@ -1,23 +1,28 @@
 #include "OPXExplorerListingCache.h"
 
+#include "SettledDirectory.h"
 #include "TemporaryTree.h"
 
-#include <chrono>
 #include <gtest/gtest.h>
-#include <thread>
 
 namespace
 {
-ZELSysRootedDirectory Open(const std::filesystem::path& i_path)
+// "a" is smaller than "b".
+struct TwoFiles : TemporaryTree
 {
-  return ZELSysRootedDirectory(ZELUnicodeString::FromUTF8(i_path.u8string()));
-}
+  TwoFiles()
+  {
+    AddFile("a", "1");
+    AddFile("b", "22");
+    WaitUntilSettled(SystemPath());
+  }
+};
 
-void WaitUntilSettled(const ZELSysRootedDirectory& i_directory)
+std::string GetSmallest(OPXExplorerListingCache& io_cache, const ZELSysRootedDirectory& i_directory)
 {
-  for (int i = 0; i < 500 && !i_directory.GetStamp().isSettled; ++i)
-    std::this_thread::sleep_for(std::chrono::milliseconds(10));
-  ASSERT_TRUE(i_directory.GetStamp().isSettled);
+  const auto pListing = io_cache.GetListing(i_directory);
+  const ZELSYPDataSourceParameters::SortAttributeModel bySize(nlohmann::json{{"dataIndex", "size"}, {"sort", "asc"}});
+  return std::string(pListing->GetEntry(pListing->GetOrder({bySize}, i_directory, true)[0]).name);
 }
 } // namespace
 
@@ -26,7 +31,7 @@ TEST(OPXExplorerListingCacheTest, AnUnchangedDirectoryIsNotListedTwice)
   TemporaryTree tree;
   tree.AddFile("file");
   OPXExplorerListingCache cache;
-  WaitUntilSettled(Open(tree.SystemPath()));
+  WaitUntilSettled(tree.SystemPath());
   const auto pListing = cache.GetListing(Open(tree.SystemPath()));
   EXPECT_EQ(pListing->GetCount(), 1u);
   EXPECT_EQ(cache.GetListing(Open(tree.SystemPath())), pListing);
@@ -36,7 +41,7 @@ TEST(OPXExplorerListingCacheTest, AChangedDirectoryIsListedAgain)
 {
   TemporaryTree tree;
   OPXExplorerListingCache cache;
-  WaitUntilSettled(Open(tree.SystemPath()));
+  WaitUntilSettled(tree.SystemPath());
   EXPECT_EQ(cache.GetListing(Open(tree.SystemPath()))->GetCount(), 0u);
   tree.AddFile("file");
   EXPECT_EQ(cache.GetListing(Open(tree.SystemPath()))->GetCount(), 1u);
@@ -66,7 +71,7 @@ TEST(OPXExplorerListingCacheTest, TheDirectoryAskedForLongestAgoIsForgottenFirst
   for (int i = 0; i < 17; ++i)
     tree.AddDirectory(std::to_string(i));
   const auto open = [&tree](int i_number) { return Open(tree.SystemPath(std::to_string(i_number))); };
-  WaitUntilSettled(open(16));
+  WaitUntilSettled(tree.SystemPath("16"));
   OPXExplorerListingCache cache;
   const auto pFirst = cache.GetListing(open(0));
   const auto pSecond = cache.GetListing(open(1));
@@ -76,4 +81,31 @@ TEST(OPXExplorerListingCacheTest, TheDirectoryAskedForLongestAgoIsForgottenFirst
   cache.GetListing(open(16));
   EXPECT_EQ(cache.GetListing(open(0)), pFirst);
   EXPECT_NE(cache.GetListing(open(1)), pSecond);
+}
+
+TEST(OPXExplorerListingCacheTest, WithinAMessageADirectoryIsListedOnce)
+{
+  TemporaryTree tree;
+  const ZELSysRootedDirectory directory = Open(tree.SystemPath());
+  OPXExplorerListingCache cache;
+  for (std::size_t count = 0; count < 3; ++count)
+  {
+    cache.StartMessage();
+    EXPECT_EQ(cache.GetListing(directory)->GetCount(), count);
+    tree.AddFile(std::to_string(count));
+    EXPECT_EQ(cache.GetListing(directory)->GetCount(), count);
+  }
+}
+
+TEST(OPXExplorerListingCacheTest, WithinAMessageSizesAreAskedOnce)
+{
+  TwoFiles tree;
+  const ZELSysRootedDirectory directory = Open(tree.SystemPath());
+  OPXExplorerListingCache cache;
+  cache.StartMessage();
+  EXPECT_EQ(GetSmallest(cache, directory), "a");
+  tree.AddFile("a", "333");
+  EXPECT_EQ(GetSmallest(cache, directory), "a");
+  cache.StartMessage();
+  EXPECT_EQ(GetSmallest(cache, directory), "b");
 }

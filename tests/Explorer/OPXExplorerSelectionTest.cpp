@@ -60,6 +60,12 @@ TEST_F(OPXExplorerSelectionTest, AnIndexPathCountsInTheOrderWithoutASortModel)
   EXPECT_THAT(sent, ElementsAre(Notification({{"addedNodes", {"d/inner", "file"}}})));
 }
 
+TEST_F(OPXExplorerSelectionTest, IndexPathsAreToldInTheOrderTheyCame)
+{
+  EXPECT_EQ(Add(json::parse("[[1],[0],[7],[0,0],[1],[2]]")), json({{"removedNodes", {{7}, {2}}}}));
+  EXPECT_THAT(sent, ElementsAre(Notification({{"addedNodes", {"file", "d", "d/inner"}}})));
+}
+
 TEST_F(OPXExplorerSelectionTest, ADeselectedNodeIsTold)
 {
   Add({"file", "d"});

@@ -72,6 +72,11 @@ struct OPXExplorerDirectorySource::Block
 
 OPXExplorerDirectorySource::OPXExplorerDirectorySource(ZELSysRootedDirectory i_root) : _root(std::move(i_root)) {}
 
+void OPXExplorerDirectorySource::StartMessage()
+{
+  _cache.StartMessage();
+}
+
 Records::TreeNodesAnswerParameters OPXExplorerDirectorySource::RequestRows(const Records::TreeNodesRequestParameters& i_request)
 {
   std::vector<std::vector<Row>> rows;
@@ -167,13 +172,15 @@ void OPXExplorerDirectorySource::RequestSelectionChange(const Records::Selection
   const std::set<std::string> before = _selection;
   for (const std::string& id : i_change.GetRemovedNodes().ids)
     Deselect(id, removed);
+  const auto removedIDs = FindIDs(i_change.GetRemovedNodes().indexPaths);
+  const auto addedIDs = FindIDs(i_change.GetAddedNodes().indexPaths);
   for (const Records::IndexPath& path : i_change.GetRemovedNodes().indexPaths)
-    Deselect(FindID(path), removed);
+    Deselect(removedIDs.at(path), removed);
   for (const std::string& id : i_change.GetAddedNodes().ids)
     if (!Select(id, added))
       refused.ids.push_back(id);
   for (const Records::IndexPath& path : i_change.GetAddedNodes().indexPaths)
-    if (!Select(FindID(path), added))
+    if (!Select(addedIDs.at(path), added))
       refused.indexPaths.push_back(path);
   // What went and came back is as it was.
   EraseThoseIn(before, added);
@@ -204,6 +211,17 @@ std::string OPXExplorerDirectorySource::FindID(const Records::IndexPath& i_path)
     path.push_back(block.rows[0].GetID());
   }
   return OPXExplorerNodeID::Make(path);
+}
+
+// In the order of the paths: those of one directory stand together, so that it is not forgotten and listed again between.
+std::map<Records::IndexPath, std::string> OPXExplorerDirectorySource::FindIDs(const std::vector<Records::IndexPath>& i_paths)
+{
+  std::map<Records::IndexPath, std::string> ids;
+  for (const Records::IndexPath& path : i_paths)
+    ids.emplace(path, std::string());
+  for (auto& [path, id] : ids)
+    id = FindID(path);
+  return ids;
 }
 
 bool OPXExplorerDirectorySource::Select(const std::string& i_id, std::vector<std::string>& io_added)

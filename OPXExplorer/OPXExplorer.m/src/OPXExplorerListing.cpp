@@ -147,7 +147,7 @@ const OPXExplorerListing::Order& OPXExplorerListing::GetOrder(const SortModel& i
   if (sortModel.empty())
     return _naturalOrder;
   const bool needsDetails = std::any_of(sortModel.begin(), sortModel.end(), NeedsDetails);
-  if (sortModel == _sortModel && !(i_isRefreshed && needsDetails))
+  if (sortModel == _sortModel && !(i_isRefreshed && _isOutdated && needsDetails))
     return _order;
   // Asked once for all columns: this is what an order takes its time for.
   const Details details = needsDetails ? ReadDetails(i_directory) : Details();
@@ -156,6 +156,7 @@ const OPXExplorerListing::Order& OPXExplorerListing::GetOrder(const SortModel& i
     columns.push_back(MakeColumn(sort, details));
   _order = Sort(columns);
   _sortModel = sortModel;
+  _isOutdated = false;
   return _order;
 }
 

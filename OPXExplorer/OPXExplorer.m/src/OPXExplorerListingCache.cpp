@@ -18,14 +18,17 @@ std::shared_ptr<OPXExplorerListing> OPXExplorerListingCache::GetListing(const ZE
   const ZELSysRootedDirectory::Stamp stamp = i_directory.GetStamp();
   const auto known =
       std::find_if(_slots.begin(), _slots.end(), [&stamp](const Slot& i_slot) { return i_slot.stamp.IsSameDirectory(stamp); });
-  if (known != _slots.end() && known->stamp.isSettled && known->stamp.IsSameContent(stamp))
+  if (known != _slots.end() && (IsLookedAt(*known) || (known->stamp.isSettled && known->stamp.IsSameContent(stamp))))
   {
     _slots.splice(_slots.begin(), _slots, known);
+    if (!IsLookedAt(*known))
+      known->pListing->Outdate();
+    known->message = _message;
     return known->pListing;
   }
   if (known != _slots.end())
     _slots.erase(known);
-  _slots.push_front({stamp, std::make_shared<OPXExplorerListing>(i_directory)});
+  _slots.push_front({stamp, std::make_shared<OPXExplorerListing>(i_directory), _message});
   Forget();
   return _slots.front().pListing;
 }

@@ -93,6 +93,7 @@ std::string OPXTreeConversation::Answer(std::string_view i_message)
   try
   {
     nlohmann::json message = OPXTreeMessageReader::Read(i_message);
+    _methods.StartMessage();
     return AnswerAll(message);
   }
   catch (...)

@@ -3,7 +3,6 @@
 #include "OPXTreeError.h"
 #include "OPXTreeParametersCheck.h"
 #include "OPXTreeReply.h"
-#include "OPXTreeRowsSource.h"
 #include "ZELSYPAbstractDataSource.h"
 
 #include <algorithm>

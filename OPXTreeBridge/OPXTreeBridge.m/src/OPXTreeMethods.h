@@ -4,6 +4,7 @@
 #define OPXTreeMethods_H
 
 #include "OPXTreeNotifications.h"
+#include "OPXTreeRowsSource.h"
 
 #include <memory>
 #include <nlohmann/json.hpp>
@@ -11,7 +12,6 @@
 
 class OPXTreeAnswer;
 class OPXTreeOutbox;
-class OPXTreeRowsSource;
 class ZELSYPAbstractDataSource;
 
 class OPXTreeMethods
@@ -20,6 +20,8 @@ public:
   // All are borrowed but the outbox.
   OPXTreeMethods(ZELSYPAbstractDataSource& io_source, OPXTreeRowsSource& io_rows, std::shared_ptr<OPXTreeOutbox> i_pOutbox);
 
+  // Before the first call of each message.
+  void StartMessage() const { _rows.StartMessage(); }
   // Sets the answer, at once or later. Throws an OPXTreeError when there is no such method or the parameters are wrong; lets
   // through what the source throws.
   void Call(const std::string& i_method, nlohmann::json& io_params, const std::shared_ptr<OPXTreeAnswer>& i_pAnswer);

@@ -63,7 +63,10 @@ void CheckNodes(const OPXTreeValue& i_nodes)
     return;
   bool hasIDs = false;
   i_nodes.NeedEach([&hasIDs](const OPXTreeValue& i_node) { hasIDs = hasIDs || i_node.IsString(); });
-  hasIDs ? i_nodes.NeedEach(&OPXTreeValue::NeedString) : i_nodes.NeedEach(NeedIndexPath);
+  if (hasIDs)
+    return i_nodes.NeedEach(&OPXTreeValue::NeedString);
+  i_nodes.Need(i_nodes.GetSize() <= OPXTreeSession::MaxRequests, "at most 1000 index paths");
+  i_nodes.NeedEach(NeedIndexPath);
 }
 
 void NeedPointerType(const OPXTreeValue& i_value)
@@ -89,7 +92,7 @@ void OPXTreeParametersCheck::CheckRows(nlohmann::json& io_params)
   if (!params.Has("groupedRequest"))
     return CheckRange(params);
   params.Member("groupedRequest").NeedEach(CheckGroupedRequest);
-  params.Member("groupedRequest").Need(io_params["groupedRequest"].size() <= OPXTreeSession::MaxRequests, "at most 1000 requests");
+  params.Member("groupedRequest").Need(params.Member("groupedRequest").GetSize() <= OPXTreeSession::MaxRequests, "at most 1000 requests");
 }
 
 void OPXTreeParametersCheck::CheckCollapseExpand(nlohmann::json& io_params)

@@ -1,3 +1,5 @@
 #include "OPXTreeRowsSource.h"
 
 OPXTreeRowsSource::~OPXTreeRowsSource() = default;
+
+void OPXTreeRowsSource::StartMessage() {}

@@ -21,6 +21,8 @@ public:
   // A whole number, not negative.
   bool IsCount() const { return _value.is_number_unsigned(); }
   bool Is(const char* i_text) const { return _value == i_text; }
+  // Of an array or an object.
+  std::size_t GetSize() const { return _value.size(); }
   bool Has(const char* i_key) const { return _value.contains(i_key); }
 
   void NeedObject() const;
