@@ -121,7 +121,7 @@ TEST_F(OPXTreeSessionTest, AFailedNotificationIsNotAnswered)
 
 TEST_F(OPXTreeSessionTest, WhatIsNotJSONIsAParseError)
 {
-  for (const char* const text : {"", " ", "x", "{", "[1,]", "{\"a\":1}}", "1e999", "\"\xFF\"", "{\"a\":\"\xC0\x80\"}", "\"\\ud800\""})
+  for (const char* const text : {"", " ", "x", "{", "[1,]", "{\"a\":1}}", "\"\xFF\"", "{\"a\":\"\xC0\x80\"}", "\"\\ud800\""})
   {
     const json answer = Ask(text);
     EXPECT_EQ(answer["error"]["code"], -32700) << text;
@@ -129,6 +129,33 @@ TEST_F(OPXTreeSessionTest, WhatIsNotJSONIsAParseError)
     EXPECT_TRUE(answer["error"]["data"]["reason"].is_string());
     EXPECT_EQ(answer["id"], json());
   }
+}
+
+TEST_F(OPXTreeSessionTest, ANumberLargerThanAnyDoubleIsTheNearestEndOfItsRange)
+{
+  const std::string manyNines(400, '9');
+  for (const std::string& number : {std::string("1e400"), std::string("1.5E+400"), std::string("0.1e400"), manyNines, manyNines + ".5"})
+  {
+    Call("tree/rows", R"({"startRow":-)" + number + R"(,"endRow":)" + number + R"(,"groupKeys":["\"1e400"]})");
+    EXPECT_THAT(source.told, ElementsAre("rows -2147483648 2147483647")) << number;
+    source.told.clear();
+  }
+}
+
+TEST_F(OPXTreeSessionTest, ANumberLargerThanAnyDoubleSpoilsNoOtherRequestOfItsBatch)
+{
+  const json answers = Ask(R"([{"jsonrpc":"2.0","id":1,"method":"tree/structure","params":{"a\\":[1e400,1e-400]}},)"
+                           R"({"jsonrpc":"2.0","id":1e400,"method":"tree/structure","params":{}}])");
+  EXPECT_EQ(answers[0], json::parse(R"({"jsonrpc":"2.0","id":1,"result":null})"));
+  EXPECT_EQ(answers[1]["error"]["code"], -32600);
+  EXPECT_EQ(answers[1]["id"], json());
+}
+
+TEST_F(OPXTreeSessionTest, WhatOnlyResemblesANumberLargerThanAnyDoubleIsNotJSON)
+{
+  for (const char* const text :
+       {"01e400", "-01e400", "1.e400", "-.1e400", "1e400e", "1e400-", "+1e400", "-", "1e400x", "1e400 1", "1e+", "--1e400"})
+    EXPECT_EQ(GetCode("[1e400," + std::string(text) + "]"), -32700) << text;
 }
 
 TEST_F(OPXTreeSessionTest, AParseErrorDoesNotQuoteAllOfAMessage)
@@ -190,6 +217,32 @@ TEST_F(OPXTreeSessionTest, AGroupedRequestHoldsAThousandRequestsAndNoMore)
   EXPECT_TRUE(Call("tree/rows", json{{"groupedRequest", requests}}.dump()).contains("result"));
   requests.push_back(requests[0]);
   EXPECT_EQ(Call("tree/rows", json{{"groupedRequest", requests}}.dump())["error"]["code"], -32602);
+}
+
+TEST_F(OPXTreeSessionTest, AListHoldsAtMostAThousandIndexPaths)
+{
+  for (const char* const nodes : {"addedNodes", "removedNodes"})
+  {
+    json paths(1000, {0});
+    EXPECT_TRUE(Call("tree/selectionChange", json{{nodes, paths}}.dump()).contains("result"));
+    paths.push_back({0});
+    EXPECT_EQ(Call("tree/selectionChange", json{{nodes, paths}}.dump())["error"]["data"],
+              json({{"place", std::string("/") + nodes}, {"expected", "at most 1000 index paths"}, {"found", "array"}}));
+  }
+  EXPECT_TRUE(Call("tree/selectionChange", json{{"addedNodes", json(1001, "id")}}.dump()).contains("result"));
+}
+
+TEST(OPXTreeSessionMessagesTest, TheSourceLearnsOfEachMessageBeforeItsRequests)
+{
+  struct WatchfulSource : MemorySource
+  {
+    void StartMessage() override { told.push_back("message"); }
+  } source;
+  const OPXTreeSession session(source);
+  session.Receive(topRows);
+  session.Receive("[" + topRows + "," + note + "]");
+  session.Receive("not JSON");
+  EXPECT_THAT(source.told, ElementsAre("message", "rows 0 9", "message", "rows 0 9", "pointer 1 0"));
 }
 
 TEST(OPXTreeSessionLimitsTest, ABatchWhoseAnswersTakeTooMuchRefusesItsOtherRequests)

@@ -3,7 +3,10 @@
 #include "OPXTreeError.h"
 #include "OPXTreeSession.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstddef>
+#include <cstdlib>
 #include <string>
 
 namespace
@@ -45,6 +48,53 @@ void CheckLimits(std::string_view i_text)
   if (IsTooDeep(i_text))
     throw OPXTreeError(OPXTreeError::InvalidRequest, {{"reason", "nested too deeply"}, {"maxLevels", OPXTreeSession::MaxNesting}});
 }
+
+bool IsDigit(char i_character)
+{
+  return i_character >= '0' && i_character <= '9';
+}
+
+// Whether it is a number of JSON and larger than any double. What the conversion takes and JSON does not is a zero before
+// other digits, and a point without a digit on each side.
+bool IsBeyondDouble(const std::string& i_number)
+{
+  char* pEnd = nullptr;
+  const bool isInfinite = std::isinf(std::strtod(i_number.c_str(), &pEnd));
+  const char* const pFirst = i_number.c_str() + (i_number[0] == '-' ? 1 : 0);
+  const std::size_t point = i_number.find('.');
+  return isInfinite && *pEnd == '\0' && IsDigit(pFirst[0]) && !(pFirst[0] == '0' && IsDigit(pFirst[1])) &&
+         (point == std::string::npos || IsDigit(i_number[point + 1]));
+}
+
+// The text with each number that is larger than any double replaced by one that lies out of every range just as well: for
+// the library it would be the end of the message.
+std::string BoundNumbers(std::string_view i_text)
+{
+  std::string bounded;
+  std::size_t start = 0;
+  while (start < i_text.size())
+  {
+    const std::size_t place = std::min(i_text.find_first_of("\"-0123456789", start), i_text.size());
+    bounded += i_text.substr(start, place - start);
+    const bool isText = place < i_text.size() && i_text[place] == '"';
+    start = isText ? SkipText(i_text, place + 1) : std::min(i_text.find_first_not_of("+-.0123456789eE", place), i_text.size());
+    const std::string token(i_text.substr(place, start - place));
+    bounded += !isText && IsBeyondDouble(token) ? (token[0] == '-' ? "-1e308" : "1e308") : token;
+  }
+  return bounded;
+}
+
+nlohmann::json Parse(std::string_view i_text)
+{
+  try
+  {
+    return nlohmann::json::parse(i_text);
+  }
+  catch (const nlohmann::json::out_of_range&)
+  {
+    return nlohmann::json::parse(BoundNumbers(i_text));
+  }
+}
 } // namespace
 
 nlohmann::json OPXTreeMessageReader::Read(std::string_view i_text)
@@ -56,7 +106,7 @@ nlohmann::json OPXTreeMessageReader::Read(std::string_view i_text)
     throw OPXTreeError(OPXTreeError::ParseError, {{"reason", "zero byte"}, {"byte", zero + 1}});
   try
   {
-    return nlohmann::json::parse(i_text);
+    return Parse(i_text);
   }
   catch (const nlohmann::json::exception& error)
   {
