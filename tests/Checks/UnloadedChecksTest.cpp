@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+#include <regex>
+
 namespace
 {
 ChildResult CallAfterUnload(const std::string& i_entry)
@@ -31,6 +33,21 @@ TEST_P(UnloadedChecks, PrintThatTheyWereCalledAndDoNothingElse)
   EXPECT_EQ(result.out, "");
   EXPECT_EQ(ReportText::Of(result.err), "** INTERNAL ERROR in " + std::string(GetParam().file) +
                                             ".cpp LINE, called after this linked library has been unloaded\nreturned\n");
+}
+
+TEST(UnloadedChecksOfTheSetter, PrintTheirOwnLines)
+{
+  int before = 1;
+  for (const char* const name :
+       {"CallSetFailureHandler", "CallSetExpectFailures", "CallResetExpectFailuresAndCheck", "CallResetExpectFailuresAndCheckMsg"})
+  {
+    const std::string err = CallAfterUnload(name).err;
+    std::smatch line;
+    ASSERT_TRUE(std::regex_search(err, line, std::regex("ZELSYPCheckFailureHandlerSetter\\.cpp ([0-9]+),"))) << err;
+    // They stand in this order.
+    EXPECT_GT(std::stoi(line[1]), before) << name;
+    before = std::stoi(line[1]);
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryEntryPoint, UnloadedChecks,

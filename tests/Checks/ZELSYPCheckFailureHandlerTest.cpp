@@ -146,7 +146,7 @@ TEST(ZELSYPCheckFailureHandler, BaseReportsAdvancedExpectationsOnlyWhereSomeAreG
   {
     int count;
     const char *text1, *text2;
-  } const given[] = {{1, "", ""}, {0, "a", ""}, {0, "", "b"}};
+  } const given[] = {{1, "", ""}, {-1, "", ""}, {0, "a", ""}, {0, "", "b"}};
   for (const auto& expected : given)
   {
     failures.Clear();

@@ -101,6 +101,13 @@ TEST(ZELSYPDefaultCheckFailureHandler, IsSilentOutsideTheDevelopmentStage)
   EXPECT_EQ(WithPanel("FailOneCheck", 0).Unset("ZELDevelopmentStage").Run().out, "went on\n");
 }
 
+TEST(ZELSYPDefaultCheckFailureHandler, SaysNothingOfANullFileOutsideTheDevelopmentStage)
+{
+  const ChildResult result = WithPanel("FailWithoutTexts", 0).Set("ZELDevelopmentStage", "0").Run();
+  EXPECT_TRUE(result.Succeeded()) << result;
+  EXPECT_EQ(result.err, "");
+}
+
 TEST(ZELSYPDefaultCheckFailureHandler, PrintsTheFailureAndTheStackAndEndsTheProcessWithoutAPanel)
 {
   const ChildResult result = WithoutPanel("FailOneCheck").Run();

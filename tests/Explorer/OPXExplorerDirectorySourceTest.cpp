@@ -92,6 +92,19 @@ TEST(OPXExplorerDirectorySourceTest, DirectoriesComeFirstAndNamesInNaturalOrder)
   EXPECT_THAT(DirectoryView(tree.SystemPath()).Names({}), ElementsAre("d", "e", "big", "file2", "file10"));
 }
 
+TEST(OPXExplorerDirectorySourceTest, NamesThatAreEqualInNaturalOrderStandInTheOrderOfTheirBytes)
+{
+  TemporaryTree tree;
+  std::vector<std::string> names;
+  for (std::size_t zeros = 10; zeros > 0; --zeros)
+    names.push_back("FILE" + std::string(zeros + 10, '0') + "1");
+  for (std::size_t zeros = 10; zeros > 0; --zeros)
+    names.push_back("file" + std::string(zeros, '0') + "1");
+  for (const std::string& name : names)
+    tree.AddFile(name);
+  EXPECT_EQ(DirectoryView(tree.SystemPath()).Names({}), names);
+}
+
 TEST(OPXExplorerDirectorySourceTest, EveryPropertySortsInBothDirections)
 {
   SortedTree tree;

@@ -118,6 +118,26 @@ TEST(ReadDirectory, TakesADriveWithoutABackslashForARelativeName)
   EXPECT_EQ(List("Q:"), Texts());
 }
 
+TEST(ReadDirectory, DropsAllOfTheFirstComponentBehindADrive)
+{
+  TemporaryTree tree;
+  tree.AddFile("f");
+  const std::string drive = tree.Path().substr(0, 2);
+  EXPECT_EQ(List((drive + "foo" + tree.Path("f").substr(2)).c_str()), Texts{tree.Path("f")});
+  EXPECT_EQ(List("x:y"), Texts{"x:"});
+}
+
+TEST(ReadDirectory, KeepsComponentsOfDotsAsTheyAre)
+{
+  TemporaryTree tree;
+  tree.AddFile("d\\file");
+  tree.AddDirectory("e");
+  ASSERT_EQ(ZELSYPFilePath::SetWorkDir(In(tree, "e")), 0);
+  const std::string here = TextOf(ZELSYPFilePath::GetWorkDir());
+  EXPECT_EQ(List("..\\d\\fi*"), Texts{here + "\\..\\d\\file"});
+  EXPECT_EQ(List(".\\..\\d\\.\\file"), Texts{here + "\\.\\..\\d\\.\\file"});
+}
+
 TEST(ReadDirectory, AnswersAShareAloneWithoutLookingForIt)
 {
   EXPECT_EQ(List("\\\\server\\share"), Texts{"\\\\server\\share"});

@@ -414,3 +414,18 @@ TEST(ZELSYPFilePathSystem, SearchWithoutAListReadsTheInstallPath)
   EXPECT_TRUE(unset.Succeeded()) << unset;
   EXPECT_EQ(unset.out, "");
 }
+
+OPX_CHILD_ENTRY(SearchAnEmptyList)
+{
+  std::fputs(ZELSYPFilePath::Search("f", ""), stdout);
+  return 0;
+}
+
+TEST(ZELSYPFilePathSystem, SearchOfAnEmptyListDoesNotReadTheInstallPath)
+{
+  TemporaryTree tree;
+  tree.AddFile("f");
+  const ChildResult result = ChildProcess::Self("SearchAnEmptyList").Set("ZELInstallPath", tree.Path()).Run();
+  EXPECT_TRUE(result.Succeeded()) << result;
+  EXPECT_EQ(result.out, "");
+}

@@ -146,6 +146,16 @@ TEST(TreeNodesRequestParametersTest, TellsOfWrongTypesAndKeepsWhatWasRead)
   EXPECT_EQ(request.GetLastNodeIndex(1), 4);
 }
 
+TEST(TreeNodesRequestParametersTest, KeepsTheSortModelReadBeforeABrokenElement)
+{
+  const std::string first = R"({"groupedRequest":[{"startRow":1,"endRow":2,"groupKeys":[],"sortModel":[{"dataIndex":"one"}]},)";
+  for (const char* const second : {R"({"startRow":"3","endRow":4,"groupKeys":[],)", R"({"startRow":3,"endRow":"4","groupKeys":[],)",
+                                   R"({"startRow":3,"endRow":4,"groupKeys":[5],)"})
+    EXPECT_THAT(Broken((first + second + R"("sortModel":[{"dataIndex":"two"}]}]})").c_str()).GetSortModel(),
+                ElementsAre(SortAttributeModel(json{{"dataIndex", "one"}})))
+        << second;
+}
+
 TEST(TreeNodesRequestParametersTest, LetsTypeErrorsOfTheCommonPartOut)
 {
   const auto errorOf = [](const char* i_text) { return TypeErrorOf([i_text] { Parsed(i_text); }); };

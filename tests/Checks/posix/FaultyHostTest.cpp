@@ -100,6 +100,18 @@ TEST(FaultyHost, TakesNoHiddenCheckWhichIsThenReportedAgain)
   ExpectToGoOn(RunCase("HideTwice"), LookUp, once + once);
 }
 
+// As when another thread was asked about the same check at the same time.
+TEST(FaultyHost, HasHiddenTheCheckMeanwhileAndNothingIsSaidOfThat)
+{
+  ExpectToGoOn(RunCase("HideWhatIsHiddenMeanwhile"), LookUp, Failure + Hidden);
+}
+
+TEST(FaultyHost, IsAskedForTheWholeStack)
+{
+  const std::string err = RunCase("FailOnce").err;
+  EXPECT_NE(err.find("call stack:\n 0# at most 0 without the first 0\n"), std::string::npos) << err;
+}
+
 TEST(FaultyHost, PassesNullKeysWhichHashToNothingAndEqualNothing)
 {
   ExpectToGoOn(RunCase("PassNullKeys"), "0, 0, 0, 0\n" + LookUp, NullValue + NullValue + NullValue + NullValue + NullValue + Failure);

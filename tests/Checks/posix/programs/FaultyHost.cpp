@@ -5,6 +5,7 @@
 // first. On Windows each call is bound to the library that it was linked with.
 #include "FailureHandlerInstaller.h"
 #include "OPXCoreServices.h"
+#include "ZELBasicStackTrace.h"
 #include "ZELEvent.h"
 #include "ZELGetFunctionAddress.h"
 #include "ZELSYPCheck.h"
@@ -25,6 +26,8 @@ bool arraysGetMemory = true;
 bool textsAreFormatted = true;
 bool eventsAreMade = true;
 bool lookUpFindsMemory = true;
+// 0: the element is in the table already.
+int insertAnswer = -1;
 bool tablesPassNullKeys = false;
 bool tablesPrintHashes = false;
 // Below 0: there is no panel.
@@ -95,7 +98,7 @@ ZELEvent* CreateZELEvent(int i_signalled)
 // The tables of this program take nothing and find nothing.
 int ZELSysSimpleHashTable::Insert(void*)
 {
-  return -1;
+  return insertAnswer;
 }
 
 void* ZELSysSimpleHashTable::Locate(const void* i_element) const
@@ -114,6 +117,13 @@ ZELFunctionAddress ZELGetFunctionAddress(const char* i_function, const char* i_l
   if (!lookUpFindsMemory)
     throw std::bad_alloc();
   return panelAnswer < 0 ? nullptr : reinterpret_cast<ZELFunctionAddress>(&AnswerAsThePanel);
+}
+
+// The frames of this program are what was asked for.
+void ZELBasicStackTrace::Print(std::FILE* io_stream, int i_maximum, int i_skip) const
+{
+  if (GetFrameCount() > 0)
+    std::fprintf(io_stream, " 0# at most %d without the first %d\n", i_maximum, i_skip);
 }
 
 // A debugger that always continues, so that no failure ends the process.
@@ -228,6 +238,13 @@ void HideTwice(const char*)
   FailOnce(nullptr);
 }
 
+void HideWhatIsHiddenMeanwhile(const char*)
+{
+  insertAnswer = 0;
+  panelAnswer = 2;
+  FailOnce(nullptr);
+}
+
 void PassNullKeys(const char*)
 {
   tablesPassNullKeys = true;
@@ -258,6 +275,7 @@ struct Case
   void (*run)(const char* i_argument);
 };
 const Case cases[] = {{"AskForMemory", &AskForMemory},
+                      {"FailOnce", &FailOnce},
                       {"FailWithoutMemoryForTheHandler", &FailWithoutMemoryForTheHandler},
                       {"FailWithoutMemoryForTheMessage", &FailWithoutMemoryForTheMessage},
                       {"FailWithoutAnyMemory", &FailWithoutAnyMemory},
@@ -266,6 +284,7 @@ const Case cases[] = {{"AskForMemory", &AskForMemory},
                       {"FailWithoutAnEvent", &FailWithoutAnEvent},
                       {"WaitWithoutAnEvent", &WaitWithoutAnEvent},
                       {"HideTwice", &HideTwice},
+                      {"HideWhatIsHiddenMeanwhile", &HideWhatIsHiddenMeanwhile},
                       {"PassNullKeys", &PassNullKeys},
                       {"HashTheKeyOfLineTwelve", &HashTheKeyOfLineTwelve},
                       {"FailInThreeHandlers", &FailInThreeHandlers}};
