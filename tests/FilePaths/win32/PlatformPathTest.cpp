@@ -24,6 +24,14 @@ TEST(PlatformPath, FindsAFileByItsWideNameWhereTheNarrowOneFails)
   EXPECT_EQ(In(tree, Wide).IsFile(), 1);
 }
 
+TEST(PlatformPath, SearchesAFileByItsWideNameWhereTheNarrowOneFails)
+{
+  TemporaryTree tree;
+  tree.AddFile(Wide);
+  const ZELSYPFilePath found = ZELSYPFilePath::Search(ZELSYPFilePath(ZELUnicodeString::FromUTF8(Wide)), tree.Path().c_str());
+  EXPECT_EQ(found.IsEqual(In(tree, Wide)), 1);
+}
+
 TEST(PlatformPath, FindsADirectoryByItsNarrowNameOnly)
 {
   TemporaryTree tree;
@@ -65,6 +73,15 @@ TEST(PlatformPath, ResolvesABareNameAgainstTheDrive)
   TemporaryTree tree;
   ASSERT_EQ(ZELSYPFilePath::SetWorkDir(In(tree)), 0);
   EXPECT_EQ(TextOf(ZELSYPFilePath("f").GetFullPath()), tree.Path().substr(0, 2) + "\\f");
+}
+
+// Its directory is the drive, which without a backslash is the working directory there.
+TEST(PlatformPath, ResolvesAFileAtTheRootOfADrive)
+{
+  TemporaryTree tree;
+  ASSERT_EQ(ZELSYPFilePath::SetWorkDir(In(tree)), 0);
+  const std::string file = tree.Path().substr(0, 2) + "\\f";
+  EXPECT_EQ(TextOf(ZELSYPFilePath(file.c_str()).GetFullPath()), file);
 }
 
 TEST(PlatformPath, MakesATemporaryFileOfTheFirstThreeLettersOfItsPrefix)
