@@ -5,7 +5,6 @@
 #ifndef ZELAtomicCounter_H
 #define ZELAtomicCounter_H
 
-#include <atomic>
 #include <cstdint>
 #if __has_include(<sys/single_threaded.h>)
 #include <sys/single_threaded.h>
@@ -21,24 +20,18 @@ public:
   // What the system vouches for; one that does not tell says false for ever.
   static bool ProcessHasOneThread() noexcept;
 
-  std::int32_t Get() const noexcept { return _count.load(std::memory_order_relaxed); }
-  void Set(std::int32_t i_count) noexcept { _count.store(i_count, std::memory_order_relaxed); }
+  std::int32_t Get() const noexcept { return __atomic_load_n(&_count, __ATOMIC_RELAXED); }
+  void Set(std::int32_t i_count) noexcept { __atomic_store_n(&_count, i_count, __ATOMIC_RELAXED); }
 
   // Both answer the count that stands then. Whoever brings it to 0 sees all that was done under the other references.
-  std::int32_t Increment() noexcept { return ProcessHasOneThread() ? Add(1) : _count.fetch_add(1, std::memory_order_relaxed) + 1; }
-  std::int32_t Decrement() noexcept { return ProcessHasOneThread() ? Add(-1) : _count.fetch_sub(1, std::memory_order_acq_rel) - 1; }
+  std::int32_t Increment() noexcept { return ProcessHasOneThread() ? ++_count : __atomic_add_fetch(&_count, 1, __ATOMIC_RELAXED); }
+  std::int32_t Decrement() noexcept { return ProcessHasOneThread() ? --_count : __atomic_sub_fetch(&_count, 1, __ATOMIC_ACQ_REL); }
   // Decrement() == 0, for which the processor keeps no count.
-  bool DecrementToZero() noexcept { return ProcessHasOneThread() ? Add(-1) == 0 : _count.fetch_sub(1, std::memory_order_acq_rel) == 1; }
+  bool DecrementToZero() noexcept { return ProcessHasOneThread() ? --_count == 0 : __atomic_sub_fetch(&_count, 1, __ATOMIC_ACQ_REL) == 0; }
 
 private:
-  std::int32_t Add(std::int32_t i_difference) noexcept
-  {
-    const std::int32_t count = Get() + i_difference;
-    Set(count);
-    return count;
-  }
-
-  std::atomic<std::int32_t> _count;
+  // No std::atomic: the one thread counts by one instruction in memory, which what is atomic is never compiled to.
+  std::int32_t _count;
 };
 
 inline bool ZELAtomicCounter::ProcessHasOneThread() noexcept

@@ -11,6 +11,7 @@
 #include "ZELClassId.h"
 #include "ZELMetaClass.h"
 
+#include <atomic>
 #include <type_traits>
 
 // In the body of a class, which goes on with public members. As with all macros here, a semicolon must follow.
