@@ -6,6 +6,9 @@
 #include <algorithm>
 #include <cstdio>
 #include <map>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace Records = ZELSYPDataSourceParameters;
 

@@ -22,8 +22,8 @@ public:
   virtual void Handle(ZELBaseUnknown* i_pNode, ZELSYPEventArgs* i_pArgs) = 0;
   // The class of the arguments that Handle takes: it is accepted for events whose arguments are of a kind of this class.
   virtual ZELMetaClass* GetArgumentsClass() = 0;
-  // Not 0 once the handler has become useless, as when its target is gone: the next look at a list drops it. It
-  // may add and remove handlers; the store that asks must neither go nor be replaced before the answer.
+  // Not 0 once the handler has become useless, as when its target is gone: the next look at a list drops it. It may
+  // add and remove handlers; the store that asks must neither go nor be replaced before the answer.
   virtual int MustBeRemoved() = 0;
 };
 

@@ -17,8 +17,8 @@ public:
   // The session and the output are borrowed for the life of the printer.
   OPXExplorerTreePrinter(const OPXTreeSession& i_session, OPXExplorerOutput& io_output);
 
-  // Two levels, ten rows a directory, for as long as the output is open. False when the directory itself could not be listed to its
-  // end, or a request failed, which is told on standard error.
+  // Two levels, ten rows a directory, for as long as the output is open. False when the directory itself could not be
+  // listed to its end, or a request failed, which is told on standard error.
   bool Print();
 
 private:
