@@ -25,9 +25,9 @@
 // which has one way out, so that the compiler does not take the end of the route for the path of an error; the library
 // calls its own functions directly; a block of memory is taken back by the thread that took it, which needs no counting; one
 // lender serves all nodes of a route; the answers of the builder for one object are cold, or the compiler would test every
-// route for that builder, three times a node. A call and its return take about four cycles, and a jump that is taken one,
-// which is more than the instructions between them: destructors of builders are inlined where they are used, and what is
-// told to the compiler as likely keeps the way of a handler that stays and runs in one piece.
+// route for that builder, three times a node. Ten handlers at the origin went from 46 ns to 44 by two taken
+// jumps less a handler, which the compiler is told will likely stay and run, and to 40 by the end of the builder, inlined
+// where it is used.
 //
 // Tried and dropped: walking a snapshot to ask who must be removed without comparing it with the list after each answer. It
 // hid a list that a handler empties while it is asked. Stops aligned to cache lines, stops fetched before they are taken,
